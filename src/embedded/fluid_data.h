@@ -40,8 +40,8 @@ struct Fluid {
   std::optional<Fit> gasViscosity;                 // A T^B, POISE
   std::optional<Fit> liquidConductivity;           // A + B T, CAL/CM/S/DEG K
   std::optional<Fit> gasConductivity;              // A + B T, CAL/CM/S/DEG K
-  std::optional<double> z;                  // used as it stands
-  std::optional<double> heatCapacityRatio;  // used as it stands
+  std::optional<double> z;                         // used as it stands
+  std::optional<double> heatCapacityRatio;         // used as it stands
 };
 using FluidTable = std::map<std::string, Fluid, NameLess>;
 

@@ -134,8 +134,8 @@ void MemoryStore::clear(StoredObject& object) {
   std::erase(blocks_, &object);
 }
 
-void MemoryStore::mount(std::string_view path, std::string_view databaseName) {
-  mounts_[names_.intern(samePath(path))] = names_.intern(databaseName);
+void MemoryStore::mount(std::string_view path, StoredDatabase& database) {
+  mounts_[names_.intern(samePath(path))] = &database;
 }
 
 // --- Slots of an object -------------------------------------------------------------------------
@@ -216,8 +216,12 @@ std::vector<SlotChange> MemoryStore::changes() const {
 
 // --- ObjectStore --------------------------------------------------------------------------------
 
-bool MemoryStore::projectIsValid(unsigned project) const { return project == kProject; }
-bool MemoryStore::caseIsValid(unsigned simCase) const { return simCase == kCase && simulator_ != 0; }
+bool MemoryStore::projectIsValid(unsigned project) const {
+  return project == kProject;
+}
+bool MemoryStore::caseIsValid(unsigned simCase) const {
+  return simCase == kCase && simulator_ != 0;
+}
 int MemoryStore::simulatorType(unsigned simCase) const {
   return caseIsValid(simCase) ? simulator_ : 0;
 }
@@ -248,8 +252,8 @@ bool MemoryStore::systemDatabaseExists(std::string_view path) const {
   return mounts_.contains(names_.find(samePath(path)));
 }
 
-ObjectId MemoryStore::object(unsigned project, std::string_view databaseName,
-                             std::string_view name, bool create) {
+ObjectId MemoryStore::object(unsigned project, std::string_view databaseName, std::string_view name,
+                             bool create) {
   if (project != kProject) return ObjectId::none;
   StoredObject* found = open(findDatabase(databaseName), name);
   if (found != nullptr && create) enlist(*found);
@@ -258,8 +262,7 @@ ObjectId MemoryStore::object(unsigned project, std::string_view databaseName,
 
 ObjectId MemoryStore::systemObject(std::string_view path, std::string_view name) {
   const auto mount = mounts_.find(names_.find(samePath(path)));
-  if (mount == mounts_.end()) return ObjectId::none;
-  return openStored(byName_.at(mount->second), name, false);
+  return mount != mounts_.end() ? openStored(mount->second, name, false) : ObjectId::none;
 }
 
 ObjectId MemoryStore::openStored(StoredDatabase* database, std::string_view name, bool create) {
@@ -295,8 +298,7 @@ bool MemoryStore::exists(ObjectId object) const {
   return found != nullptr && found->stored;
 }
 
-bool MemoryStore::read(ObjectId object, std::string_view slot, bool inherit,
-                       CvdSlot& value) const {
+bool MemoryStore::read(ObjectId object, std::string_view slot, bool inherit, CvdSlot& value) const {
   const StoredObject* from = objectOf(object);
   const Symbol symbol = names_.find(slot);
   if (symbol == Symbol::none) return false;
@@ -389,7 +391,8 @@ bool MemoryStore::disconnect(ConnectorId connector) {
   if (number == 0 || number > connectors_.size()) return false;
   const Connector& end = connectors_[number - 1];
   std::vector<std::string> ports = get(*end.record, end.list).List();
-  std::erase_if(ports, [&end](const std::string& port) { return equalsIgnoringCase(port, end.port); });
+  std::erase_if(ports,
+                [&end](const std::string& port) { return equalsIgnoringCase(port, end.port); });
   erase(idOf(end.record), end.port);
   if (ports.empty()) return erase(idOf(end.record), end.list);
   return write(idOf(end.record), end.list, CvdSlot::ofList(std::move(ports)));

@@ -37,7 +37,7 @@ struct StoredDatabase {
 };
 
 /// Databases beside those of the classes of host objects that hold objects of one kind.
-enum : int { kDesignCriteria = 1 };
+enum : int { kDesignCriteria = 1, kPropertyObjects = 2 };
 
 /// One slot that a run added, changed or removed.
 struct SlotChange {
@@ -83,9 +83,9 @@ class MemoryStore : public ObjectStore {
   void clear(StoredObject& object);
   [[nodiscard]] const std::string& text(Symbol symbol) const { return names_.text(symbol); }
 
-  /// Names the database that answers under a path outside the project. In paths, case and the kind
-  /// of slash do not matter.
-  void mount(std::string_view path, std::string_view databaseName);
+  /// Lets a database answer under a path outside the project. In paths, case and the kind of slash
+  /// do not matter.
+  void mount(std::string_view path, StoredDatabase& database);
   /// Simulator type of the case; 0 for no case at all.
   void setSimulator(int type) { simulator_ = type; }
 
@@ -148,7 +148,7 @@ class MemoryStore : public ObjectStore {
   std::deque<StoredDatabase> databases_;
   std::unordered_map<Symbol, StoredDatabase*> byName_;
   std::unordered_map<int, StoredDatabase*> byClass_;
-  std::unordered_map<Symbol, Symbol> mounts_;  // path to database name
+  std::unordered_map<Symbol, StoredDatabase*> mounts_;  // by path
   std::vector<StoredDatabase*> named_;
   std::vector<StoredObject*> streams_;
   std::vector<StoredObject*> blocks_;

@@ -32,7 +32,9 @@ std::size_t NamePool::probe(std::string_view name) const {
   return place;
 }
 
-Symbol NamePool::find(std::string_view name) const { return table_[probe(name)]; }
+Symbol NamePool::find(std::string_view name) const {
+  return table_[probe(name)];
+}
 
 Symbol NamePool::intern(std::string_view name) {
   std::size_t place = probe(name);

@@ -42,6 +42,8 @@ struct Plant {
 
   std::optional<DesignRules> designRules;  // absent: the default rules
   bool hasUtilities = false;               // false: the bundled utilities, where used
+  /// The plant itself says what VPECOMP "equipment information" holds, for every item.
+  bool hasEquipmentInformation = false;
   std::vector<PropertyOverlay> propertyDatabase;
   ChartTable charts;
   FluidTable fluids;

@@ -11,10 +11,16 @@ namespace sizewright {
 
 namespace {
 
-void report(std::string_view step) { status_write(30, 3, step); }
+void report(std::string_view step) {
+  status_write(30, 3, step);
+}
 
-bool usable(const CvdProject* project) { return project != nullptr && project->IsValid() != 0; }
-bool usable(const CvdSimCase* simCase) { return simCase != nullptr && simCase->IsValid() != 0; }
+bool usable(const CvdProject* project) {
+  return project != nullptr && project->IsValid() != 0;
+}
+bool usable(const CvdSimCase* simCase) {
+  return simCase != nullptr && simCase->IsValid() != 0;
+}
 
 const CStrList& messageSlots() {
   static const CStrList kSlots = {"Sizing Error(s)", "Sizing Warning(s)", "Sizing Note(s)",
@@ -94,7 +100,8 @@ int CSizeEquip::openItemRecords() {
     projectComponentName = text;
   }
   if (!projectComponentName.empty()) {
-    auto opened = std::make_shared<CvdProjectObject>(projectComponentName, kProjectItem, *project, 0);
+    auto opened =
+        std::make_shared<CvdProjectObject>(projectComponentName, kProjectItem, *project, 0);
     if (opened->IsValid() != 0) projectObject = std::move(opened);
   }
   component->DeleteSlots(messageSlots());
@@ -150,8 +157,7 @@ int CSizeEquip::size_init_set(CvdProject* hostProject, CvdSimCase* hostCase, con
 }
 
 void CSizeEquip::size_init_set_args(const char* first, const char* projectFileName,
-                                    const char* third, const char* sizeFileName,
-                                    const char* mode) {
+                                    const char* third, const char* sizeFileName, const char* mode) {
   argFirst = first;
   argProjectFile = projectFileName;
   argThird = third;
@@ -169,13 +175,13 @@ int CSizeEquip::size_init_set_pxproj_file_name() {
 
 int CSizeEquip::size_init_set_pxprop_file_name() {
   FixedText<512> directory;
-  if (VPERegGetInstallDir("SystemCacheDir", directory.data(), directory.kCapacity) == 0) {
+  if (VPERegGetInstallDir("SystemCacheDir", directory.data(), directory.capacity()) == 0) {
     m_printf("Cannot obtain SYSTEM directory. Installation error.");
     return 0;
   }
   pxpropFile = formatText("%s\\pxprop", directory.c_str());
   if (pxpropFile.empty()) {
-    GetProfileStringA("VPE", "SourceDir", "", directory.data(), directory.kCapacity);
+    GetProfileStringA("VPE", "SourceDir", "", directory.data(), directory.capacity());
     std::string_view source = directory;
     if (source.ends_with('\\')) source.remove_suffix(1);
     pxpropFile = formatText("%s\\%s", std::string(source).c_str(), "PXPROP");

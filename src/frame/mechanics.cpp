@@ -57,10 +57,16 @@ double CSizeEquip::readOr(CvdValueObject* object, std::string_view slot, const c
   return found != 0 ? value : missing;
 }
 
+double CSizeEquip::readSentinel(CvdValueObject* object, std::string_view slot, const char* units,
+                                double sentinel) const {
+  double value = sentinel;
+  return lib_get_and_adjust_api(object, slot, &value, units) != 0 ? value : sentinel;
+}
+
 double CSizeEquip::readComponentOrBlock(std::string_view componentSlot, std::string_view blockSlot,
-                                        const char* units, double missing) const {
-  const double value = readOr(component.get(), componentSlot, units, missing);
-  return value != missing ? value : readOr(simObject.get(), blockSlot, units, missing);
+                                        const char* units, double sentinel) const {
+  const double value = readSentinel(component.get(), componentSlot, units, sentinel);
+  return value != sentinel ? value : readSentinel(simObject.get(), blockSlot, units, sentinel);
 }
 
 bool CSizeEquip::allowsResize() const {
@@ -82,7 +88,10 @@ bool CSizeEquip::readDesignConditions(double& pressure, double& temperature) con
 void CSizeEquip::findStreams(void*& list, Direction direction, std::string_view slot,
                              std::string_view tag) const {
   ensureList(list);
-  if (list2_length(list) == 0) GetStreams(direction, slot, tag, list);
+  if (list2_length(list) != 0) return;
+  void* empty = list;
+  GetStreams(direction, slot, tag, list);
+  if (list != empty) list2_delete(empty);  // a stream named in a slot came in a new list
 }
 
 void CSizeEquip::rewritePorts(Direction direction, void* list, std::string_view tag,
@@ -94,12 +103,13 @@ void CSizeEquip::rewritePorts(Direction direction, void* list, std::string_view 
                          direction);
 }
 
-void CSizeEquip::showStream(std::string_view label, void* list, const char* dialog,
-                            CStrList& names, CStrList& values) const {
+void CSizeEquip::showStream(std::string_view label, void* list, const char* dialog, CStrList& names,
+                            CStrList& values) const {
   if (list2_length(list) == 0) return;
   if (list2_length(list) > 1) {
     FixedText<256> stream;
     lib_GetStreamWithMax_total_mass_flow(list, stream.data());
+    // kept: the name takes the first place even when it is empty, because nothing flows
     list2_replace_item(list, 0, stream);
     FixedText<256> shown;
     if (DisplayMapper::GetNodeData(stream, shown) == 0) shown = stream;
@@ -149,6 +159,11 @@ void CSizeEquip::showFormNumber(CStrList& names, CStrList& values, std::string_v
   if (shown != nullptr) text.append("\n").append(shown);
   names.Append(label);
   values.Append(text);
+}
+
+void CSizeEquip::writeGaugePressure(std::string_view slot, double pressure) {
+  writeResult(slot, converted(pressure, "PSI", "PSIG"), When::always, Style::converted, "PSIG",
+              "PSIG", "KPA");
 }
 
 void CSizeEquip::writeResult(std::string_view slot, double value, When when, Style style,

@@ -41,7 +41,7 @@ int CSizeEquip::AddWarningAndError() {
 }
 
 int CSizeEquip::UpdateSizeInfo() {
-  static const CStrList kLeftOut = {"object name", "Title", "CpRemarks1", "CpRemarks2",
+  static const CStrList kLeftOut = {"object name",       "Title",     "CpRemarks1",  "CpRemarks2",
                                     "CpItemDescription", "CpUserTag", "CpQuotedCost"};
   if (CvdODB(projectId, sizeFile, 0).Exists() == 0) return 0;
   CvdGenericObject record(projectId, sizeFile, projectComponentName, 1);
@@ -72,8 +72,8 @@ void CSizeEquip::WriteToFile(const char* path, void* names, void* values) {
     if (value.empty()) continue;
     const std::string number(popFirstLine(value));
     const std::string units(popFirstLine(value));
-    std::fprintf(file.get(), "  %-48s%-20s%s\n", list2_get_item(names, i, nullptr),
-                 number.c_str(), units.c_str());
+    std::fprintf(file.get(), "  %-48s%-20s%s\n", list2_get_item(names, i, nullptr), number.c_str(),
+                 units.c_str());
   }
 }
 
@@ -86,7 +86,9 @@ int CSizeEquip::lib_func_write_msg(const char* /*ignored1*/, const char* /*ignor
   return 1;
 }
 
-void CSizeEquip::tell(CStrList& list, std::string_view text) { list.AddTextList(text, kLine); }
+void CSizeEquip::tell(CStrList& list, std::string_view text) {
+  list.AddTextList(text, kLine);
+}
 
 void CSizeEquip::showBox(std::string_view text, int flags) const {
   if (noDialogs == 0) m_messageBox(nullptr, text, "Sizing", flags);

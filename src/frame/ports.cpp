@@ -2,6 +2,7 @@
 #include <cstring>
 
 #include "sizewright/frame/size_equip.h"
+#include "sizewright/frame/stream_lists.h"
 #include "sizewright/host/installation.h"
 #include "sizewright/host/list2.h"
 #include "sizewright/host/text.h"
@@ -17,8 +18,6 @@ constexpr std::size_t kPortText = 6000;
 std::string_view connectorSlot(int direction) {
   return direction == kInlet ? "__STREAMS__IN" : "__STREAMS__EX";
 }
-
-bool isNone(std::string_view stream) { return equalsIgnoringCase(stream, "NONE"); }
 
 std::string portName(std::string_view prefix, int number) {
   return formatText("%.*s_%d", static_cast<int>(prefix.size()), prefix.data(), number);
@@ -101,7 +100,7 @@ int CSizeEquip::lib_func_add_new_ports(std::string_view /*file*/, std::string_vi
   int number = 0;
   for (int i = 0; i < list2_length(streams); ++i) {
     const std::string stream(withoutTrailingBlanks(list2_get_item(streams, i, nullptr)));
-    if (stream.empty() || isNone(stream)) continue;
+    if (isNoStream(stream)) continue;
     const std::string port = portName(prefix, ++number);
     AddStreamToList(stream, kChanged);
     lib_func_create_connector_slot(port, stream, tag);

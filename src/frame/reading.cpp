@@ -12,8 +12,8 @@ namespace {
 // What the readers make of a slot once it is found.
 
 int takeText(const CvdSlot& slot, char* out) {
-  const SlotText text = slot.IsNumber() ? SlotText(wholeNumberText(slot.Number()).view())
-                                        : SlotText(slot.Text());
+  const SlotText text =
+      slot.IsNumber() ? SlotText(wholeNumberText(slot.Number()).view()) : SlotText(slot.Text());
   std::memcpy(out, text.c_str(), text.view().size() + 1);
   return text.empty() ? 0 : 1;
 }
@@ -44,8 +44,9 @@ int takeAdjusted(const CvdSlot& slot, double* out, std::string_view targetUnits)
   return *out != 0.0 ? 1 : 0;
 }
 
+// The unit goes out only when the slot has one.
 void copyUnits(const UnitText& units, char* out) {
-  std::memcpy(out, units.c_str(), units.view().size() + 1);
+  if (!units.empty()) std::memcpy(out, units.c_str(), units.view().size() + 1);
 }
 
 CvdSlot readFrom(const CvdValueObject* object, std::string_view slot) {
@@ -115,8 +116,7 @@ int CSizeEquip::lib_get_value_n_api(CvdValueObject* object, std::string_view slo
 }
 
 int CSizeEquip::lib_get_number_and_units(std::string_view files, std::string_view objects,
-                                         std::string_view slot, double* out,
-                                         char* unitsOut) const {
+                                         std::string_view slot, double* out, char* unitsOut) const {
   UnitText units;
   const int found = takeNumberAndUnits(search(files, objects, slot), out, units);
   copyUnits(units, unitsOut);
@@ -163,15 +163,18 @@ int CSizeEquip::lib_obj_exists(std::string_view files, std::string_view object) 
 }
 
 int CSizeEquip::GetValueFromDesCriteria(const char* name, double& value, const char* units) const {
-  return pxl_get_and_adjust_criteria_n(equipFullCode, name, value, units);
+  double found = 0.0;
+  if (pxl_get_and_adjust_criteria_n(equipFullCode, name, found, units) == 0) return 0;
+  if (found == 0.0) return 0;  // as everywhere, a number of exactly 0 counts as not given
+  value = found;
+  return 1;
 }
 
 int CSizeEquip::GetValueFromDesCriteria(const char* name, CriterionText& text) const {
   return pxl_get_criteria_value_c(equipFullCode, name, text);
 }
 
-const char* CSizeEquip::lib_func_get_str_upto_char(const char** cursor, char* out,
-                                                   char delimiter) {
+const char* CSizeEquip::lib_func_get_str_upto_char(const char** cursor, char* out, char delimiter) {
   while (**cursor != '\0' && **cursor != delimiter) *out++ = *(*cursor)++;
   *out = '\0';
   if (**cursor == delimiter && delimiter != '\0') ++*cursor;

@@ -21,26 +21,34 @@ struct CategoryRow {
 
 // Read top to bottom; "C" stands after these and depends on the item model.
 constexpr auto kCategories = std::to_array<CategoryRow>({
-    {"DGC", EQ_CAT_COMPRESSOR},    {"EGC", EQ_CAT_COMPRESSOR},    {"EAC", EQ_CAT_COMPRESSOR},
-    {"DTUR", EQ_CAT_COMPRESSOR},   {"EFN", EQ_CAT_COMPRESSOR},    {"ECR", EQ_CAT_CRUSHER},
-    {"EM", EQ_CAT_CRUSHER},        {"ECRY", EQ_CAT_CRYSTALLIZER}, {"EDC", EQ_CAT_DUST_COLLECTOR},
-    {"DSE", EQ_CAT_DUST_COLLECTOR}, {"ESE", EQ_CAT_DUST_COLLECTOR},
-    {"DDC", EQ_CAT_DUST_COLLECTOR}, {"ED", EQ_CAT_DRYER},         {"EDD", EQ_CAT_DRYER},
-    {"ETDS", EQ_CAT_DRYER},        {"EAD", EQ_CAT_DRYER},         {"ERD", EQ_CAT_DRYER},
-    {"ECT", EQ_CAT_FILTER},        {"EF", EQ_CAT_FILTER},         {"DF", EQ_CAT_FILTER},
-    {"EFU", EQ_CAT_FURNACE},       {"DHE", EQ_CAT_HEAT_EXCHANGER}, {"EHE", EQ_CAT_HEAT_EXCHANGER},
-    {"DRB", EQ_CAT_HEAT_EXCHANGER}, {"EE", EQ_CAT_HEAT_EXCHANGER}, {"WFE", EQ_CAT_HEAT_EXCHANGER},
-    {"DCP", EQ_CAT_PUMP},          {"ECP", EQ_CAT_PUMP},          {"EGP", EQ_CAT_PUMP},
-    {"EP", EQ_CAT_PUMP},           {"EVP", EQ_CAT_PUMP},          {"DP", EQ_CAT_PUMP},
-    {"EVS", EQ_CAT_SCREEN},        {"ETUR", EQ_CAT_TURBINE},      {"DTW", EQ_CAT_TOWER},
-    {"DDDT", EQ_CAT_TOWER},        {"DVT", EQ_CAT_VESSEL},        {"DHT", EQ_CAT_VESSEL},
-    {"EVT", EQ_CAT_VESSEL},        {"DAT", EQ_CAT_VESSEL},        {"EAT", EQ_CAT_VESSEL},
-    {"DMX", EQ_CAT_MIXER},
+    {"DGC", EQ_CAT_COMPRESSOR},     {"EGC", EQ_CAT_COMPRESSOR},
+    {"EAC", EQ_CAT_COMPRESSOR},     {"DTUR", EQ_CAT_COMPRESSOR},
+    {"EFN", EQ_CAT_COMPRESSOR},     {"ECR", EQ_CAT_CRUSHER},
+    {"EM", EQ_CAT_CRUSHER},         {"ECRY", EQ_CAT_CRYSTALLIZER},
+    {"EDC", EQ_CAT_DUST_COLLECTOR}, {"DSE", EQ_CAT_DUST_COLLECTOR},
+    {"ESE", EQ_CAT_DUST_COLLECTOR}, {"DDC", EQ_CAT_DUST_COLLECTOR},
+    {"ED", EQ_CAT_DRYER},           {"EDD", EQ_CAT_DRYER},
+    {"ETDS", EQ_CAT_DRYER},         {"EAD", EQ_CAT_DRYER},
+    {"ERD", EQ_CAT_DRYER},          {"ECT", EQ_CAT_FILTER},
+    {"EF", EQ_CAT_FILTER},          {"DF", EQ_CAT_FILTER},
+    {"EFU", EQ_CAT_FURNACE},        {"DHE", EQ_CAT_HEAT_EXCHANGER},
+    {"EHE", EQ_CAT_HEAT_EXCHANGER}, {"DRB", EQ_CAT_HEAT_EXCHANGER},
+    {"EE", EQ_CAT_HEAT_EXCHANGER},  {"WFE", EQ_CAT_HEAT_EXCHANGER},
+    {"DCP", EQ_CAT_PUMP},           {"ECP", EQ_CAT_PUMP},
+    {"EGP", EQ_CAT_PUMP},           {"EP", EQ_CAT_PUMP},
+    {"EVP", EQ_CAT_PUMP},           {"DP", EQ_CAT_PUMP},
+    {"EVS", EQ_CAT_SCREEN},         {"ETUR", EQ_CAT_TURBINE},
+    {"DTW", EQ_CAT_TOWER},          {"DDDT", EQ_CAT_TOWER},
+    {"DVT", EQ_CAT_VESSEL},         {"DHT", EQ_CAT_VESSEL},
+    {"EVT", EQ_CAT_VESSEL},         {"DAT", EQ_CAT_VESSEL},
+    {"EAT", EQ_CAT_VESSEL},         {"DMX", EQ_CAT_MIXER},
 });
 
 constexpr std::size_t kCodeLength = 4;  // a category code is compared on four characters
 
-void cursorShow(int cursor) { currentHost().user().cursor(cursor); }
+void cursorShow(int cursor) {
+  currentHost().user().cursor(cursor);
+}
 
 template <std::size_t N>
 void copyOut(const FixedText<N>& member, char* out) {
@@ -62,8 +70,8 @@ EQ_CAT_TYPE equipmentCategory(std::string_view categoryCode, std::string_view it
 }
 
 CSizeEquip::CSizeEquip(int interactiveMode, const char* first, const char* projectFileName,
-                       const char* third, const char* sizeFileName, const char* mode,
-                       void* window, CvdProject* hostProject, CvdSimCase* hostCase) {
+                       const char* third, const char* sizeFileName, const char* mode, void* window,
+                       CvdProject* hostProject, CvdSimCase* hostCase) {
   isValid = size_init_set(interactiveMode, first, projectFileName, third, sizeFileName, mode,
                           window, hostProject, hostCase);
 }
@@ -75,8 +83,8 @@ CSizeEquip::CSizeEquip(CvdProject* hostProject, CvdSimCase* hostCase, const char
 
 CSizeEquip::CSizeEquip(const CSizeEquip& other) {
   isValid = size_init_set(other.interactive, other.argFirst.c_str(), other.argProjectFile.c_str(),
-                          other.argThird.c_str(), other.argSizeFile.c_str(),
-                          other.argMode.c_str(), other.parentWindow, other.project, other.simCase);
+                          other.argThird.c_str(), other.argSizeFile.c_str(), other.argMode.c_str(),
+                          other.parentWindow, other.project, other.simCase);
   units_open();
 }
 
@@ -123,29 +131,53 @@ void CSizeEquip::szTerminate() {
   projectObject.reset();
 }
 
-int CSizeEquip::IsValid() { return isValid; }
+int CSizeEquip::IsValid() {
+  return isValid;
+}
 
-int CSizeEquip::GetStreamInfo() { return 0; }
+int CSizeEquip::GetStreamInfo() {
+  return 0;
+}
 
 int CSizeEquip::hxthrx_info_general_ok(std::FILE*, const char*, const char*) {
   m_printf("hxthrx_info_general_ok1: CSizeEquip called");  // a marker that no class overrode it
   return 1;
 }
-int CSizeEquip::hxthrx_get_results() { return 1; }
-int CSizeEquip::hxthrx_info_geo_ok(std::FILE*, const char*, const char*) { return 1; }
-int CSizeEquip::hxthrx_info_proc_ok(std::FILE*, const char*) { return 1; }
-int CSizeEquip::hxthrx_info_stre_ok(std::FILE*, const char*) { return 1; }
+int CSizeEquip::hxthrx_get_results() {
+  return 1;
+}
+int CSizeEquip::hxthrx_info_geo_ok(std::FILE*, const char*, const char*) {
+  return 1;
+}
+int CSizeEquip::hxthrx_info_proc_ok(std::FILE*, const char*) {
+  return 1;
+}
+int CSizeEquip::hxthrx_info_stre_ok(std::FILE*, const char*) {
+  return 1;
+}
 
 EQ_CAT_TYPE CSizeEquip::GetEquipCatType() const {
   return equipmentCategory(categoryCode, itemModel);
 }
 
-void CSizeEquip::GetCategoryCode(char* out) const { copyOut(categoryCode, out); }
-void CSizeEquip::GetItemCode(char* out) const { copyOut(itemCode, out); }
-void CSizeEquip::GetUtilFile(char* out) const { copyOut(utilFile, out); }
-void CSizeEquip::GetProcFile(char* out) const { copyOut(procFile, out); }
-void CSizeEquip::GetVpeCompFile(char* out) const { copyOut(vpeCompFile, out); }
-void CSizeEquip::GetVpeProjFile(char* out) const { copyOut(vpeProjFile, out); }
+void CSizeEquip::GetCategoryCode(char* out) const {
+  copyOut(categoryCode, out);
+}
+void CSizeEquip::GetItemCode(char* out) const {
+  copyOut(itemCode, out);
+}
+void CSizeEquip::GetUtilFile(char* out) const {
+  copyOut(utilFile, out);
+}
+void CSizeEquip::GetProcFile(char* out) const {
+  copyOut(procFile, out);
+}
+void CSizeEquip::GetVpeCompFile(char* out) const {
+  copyOut(vpeCompFile, out);
+}
+void CSizeEquip::GetVpeProjFile(char* out) const {
+  copyOut(vpeProjFile, out);
+}
 
 int CSizeEquip::SetCategoryCode(const char* code) {
   if (*code == '\0') return 0;

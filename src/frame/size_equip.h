@@ -58,18 +58,18 @@ enum Direction : int { kNoDirection = -1, kInlet = 1, kExit = 2 };
 /// number at or below 0 means not given, a temperature only at exactly 0.
 class CSizeEquip {
  public:
-  /// Design form: full sizing of the item that the component database describes. `interactive` 0
-  /// runs without dialogs. `projectFile` and `sizeFile` name the component and the results
-  /// database, or are empty for the defaults; `mode` "Spreadsheet" suppresses reading of simulator
-  /// blocks; `first` and `third` are kept and read by nothing. `window` owns message boxes. Project
-  /// and case stay the host's; the case may be null.
-  CSizeEquip(int interactive, const char* first, const char* projectFile, const char* third,
-             const char* sizeFile, const char* mode, void* window, CvdProject* project,
-             CvdSimCase* simCase);
+  /// Design form: full sizing of the item that the component database describes. `interactiveMode`
+  /// 0 runs without dialogs. `projectFileName` and `sizeFileName` name the component and the
+  /// results database, or are empty for the defaults; `mode` "Spreadsheet" suppresses reading of
+  /// simulator blocks; `first` and `third` are kept and read by nothing. `window` owns message
+  /// boxes. Project and case stay the host's; the case may be null.
+  CSizeEquip(int interactiveMode, const char* first, const char* projectFileName, const char* third,
+             const char* sizeFileName, const char* mode, void* window, CvdProject* hostProject,
+             CvdSimCase* hostCase);
   /// Selection form: a look at a simulator block without component record. The last two texts are
   /// accepted and ignored.
-  CSizeEquip(CvdProject* project, CvdSimCase* simCase, const char* blockName, const char* ignored1,
-             const char* ignored2);
+  CSizeEquip(CvdProject* hostProject, CvdSimCase* hostCase, const char* blockName,
+             const char* ignored1, const char* ignored2);
   /// Repeats the design initialisation with the other object's arguments, window, project and
   /// case, and opens the unit service.
   CSizeEquip(const CSizeEquip& other);
@@ -134,7 +134,7 @@ class CSizeEquip {
   /// Copies the item's model text without trailing blanks (at most 128 characters, terminator
   /// included); empty, and 0, without a project object.
   int getVdEquipFullCode(char* out) const;
-  /// 0 in the calling context "Spreadsheet", where simulator blocks are not read.
+  /// 0 in the calling context "Spreadsheet", in which a class reads no block information.
   [[nodiscard]] int GetProjObjectInfo() const;
   /// 1 when the simulator case holds a premapped item of that name.
   [[nodiscard]] int IsPremapType(const char* name) const;
@@ -166,7 +166,8 @@ class CSizeEquip {
   int lib_get_value_n_api(CvdValueObject* object, std::string_view slot, double* out,
                           const char* ignored) const;
   /// The number and its unit text (at most UnitText::kCapacity characters); a text slot gives its
-  /// text as unit and leaves the number. 1 when the number is not 0 and the unit is not empty.
+  /// text as unit and leaves the number, a number without unit leaves the unit. 1 when the number
+  /// is not 0 and the unit is not empty.
   int lib_get_number_and_units(std::string_view files, std::string_view objects,
                                std::string_view slot, double* out, char* unitsOut) const;
   int lib_get_number_and_units_api(CvdValueObject* object, std::string_view slot, double* out,
@@ -249,8 +250,7 @@ class CSizeEquip {
   /// The three lines of a port, each at most 256 characters with terminator; left alone when the
   /// object is invalid or has no such port.
   void lib_func_get_conn_str_prop(std::string_view file, std::string_view object,
-                                  std::string_view port, char* stream, char* type,
-                                  char* tag) const;
+                                  std::string_view port, char* stream, char* type, char* tag) const;
   /// Appends the streams connected under a tag, each once; an empty tag matches every port. A null
   /// `*list` becomes a new list. Returns the number of streams in the list.
   int lib_func_obtain_streams_from_connections(int direction, std::string_view tag,
@@ -328,9 +328,13 @@ class CSizeEquip {
   /// The slot's number in `units` (null: as it stands), or `missing` when it is absent or 0.
   double readOr(CvdValueObject* object, std::string_view slot, const char* units,
                 double missing) const;
-  /// The component's slot or, while that gives `missing`, the simulator block's.
+  /// The same for a value whose 0 or negative values are valid: the sentinel stands in the variable
+  /// before the read and after a failed one.
+  double readSentinel(CvdValueObject* object, std::string_view slot, const char* units,
+                      double sentinel) const;
+  /// The component's slot or, while that gives the sentinel, the simulator block's.
   double readComponentOrBlock(std::string_view componentSlot, std::string_view blockSlot,
-                              const char* units, double missing) const;
+                              const char* units, double sentinel) const;
   /// The project allows the item to be resized; true unless "CpAllowResize" is "No".
   [[nodiscard]] bool allowsResize() const;
 
@@ -346,8 +350,7 @@ class CSizeEquip {
   void findStreams(void*& list, Direction direction, std::string_view slot,
                    std::string_view tag) const;
   /// Removes a direction's ports and writes new ones for the list; nothing for a null list.
-  void rewritePorts(Direction direction, void* list, std::string_view tag,
-                    std::string_view prefix);
+  void rewritePorts(Direction direction, void* list, std::string_view tag, std::string_view prefix);
 
   /// Adds the first stream of a list to a form. Where there are several, that of the greatest mass
   /// flow takes the first place, and the user is told by `dialog`, a format for its name.
@@ -363,6 +366,8 @@ class CSizeEquip {
   static void showFormNumber(CStrList& names, CStrList& values, std::string_view label,
                              double number, const char* internal, const char* shown);
 
+  /// Writes a pressure, given in PSI, to a slot of gauge pressure.
+  void writeGaugePressure(std::string_view slot, double pressure);
   /// Writes a result to the component record, by its row.
   void writeResult(std::string_view slot, double value, When when, Style style,
                    const char* internal, const char* customary, const char* metric);

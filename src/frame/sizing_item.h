@@ -8,6 +8,7 @@
 #include "sizewright/frame/stream_lists.h"
 #include "sizewright/frame/tables.h"
 #include "sizewright/host/list2.h"
+#include "sizewright/host/messages.h"
 
 namespace sizewright {
 
@@ -33,7 +34,8 @@ class SizingItem : public CSizeEquip {
   SizingItem(const SizingItem& other) = default;
   SizingItem& operator=(const SizingItem& other) = default;
 
-  /// Restores the fresh state: data block cleared, lists released, first run ahead. Returns 1.
+  /// Restores the fresh state: data block cleared, lists released as `exitRelease` tells, first run
+  /// ahead. Returns 1.
   int Initialize() {
     data() = Data{};
     state_->streams.release();
@@ -57,6 +59,12 @@ class SizingItem : public CSizeEquip {
   void*& exits() { return state_->streams.exits(); }
   StreamLists& streamLists() { return state_->streams; }
   int& firstRun() { return state_->firstRun; }
+
+  // Progress of the search for streams.
+  static void checkInlets() { status_write(35, 3, "Checking inlets.."); }
+  static void checkExits() { status_write(35, 3, "Checking exits..."); }
+  /// 1 when both lists hold a stream.
+  int hasBothStreams() { return list2_length(inlets()) > 0 && list2_length(exits()) > 0 ? 1 : 0; }
 
   /// Reads the fields that are not positive yet.
   void read(std::span<const SourceRow<Data>> rows) {

@@ -75,7 +75,7 @@ constexpr auto kOtherNames = std::to_array<SameQuantity>({
     {"ACTUAL CAPACITY", "CAPACITY"},
 });
 
-std::string_view quantity(std::string_view generic) {
+std::string_view commonName(std::string_view generic) {
   for (const SameQuantity& row : kOtherNames) {
     if (row.name == generic) return row.as;
   }
@@ -100,7 +100,7 @@ bool fits(const SlotNameRow& row, std::string_view category, std::string_view it
 }  // namespace
 
 int CSizeEquip::GetNewSlotNameField(std::string_view generic, char* out) const {
-  const std::string_view wanted = quantity(generic);
+  const std::string_view wanted = commonName(generic);
   // Unknown quantities read and write the gas flow.
   std::string_view slot = kGasFlow;
   int known = 0;
@@ -115,9 +115,9 @@ int CSizeEquip::GetNewSlotNameField(std::string_view generic, char* out) const {
   return known;
 }
 
-FixedText<64> CSizeEquip::slotFor(std::string_view generic) const {
+FixedText<64> CSizeEquip::slotFor(std::string_view quantity) const {
   FixedText<64> slot;
-  GetNewSlotNameField(generic, slot.data());
+  GetNewSlotNameField(quantity, slot.data());
   return slot;
 }
 

@@ -1,6 +1,7 @@
 #include "sizewright/frame/stream_lists.h"
 
 #include "sizewright/host/list2.h"
+#include "sizewright/host/text.h"
 
 namespace sizewright {
 
@@ -18,17 +19,23 @@ void StreamLists::restart() {
   exits_ = list2_create();
 }
 
+bool isNoStream(std::string_view name) {
+  return withoutBlanksAround(name).empty() || equalsIgnoringCase(name, "NONE");
+}
+
 void ensureList(void*& list) {
   if (list == nullptr) list = list2_create();
 }
 
 int replaceList(void*& list, void* given) {
-  if (given == nullptr) return 0;
   void* copy = list2_create();
-  const int copied = list2_copy_s(given, copy);
+  if (list2_copy_s(given, copy) == 0) {
+    list2_delete(copy);
+    return 0;
+  }
   list2_delete(list);
   list = copy;
-  return copied;
+  return 1;
 }
 
 int copyList(void* list, void* given) {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <string_view>
+
 namespace sizewright {
 
 /// What happens to the exit list when an item releases its streams.
@@ -21,7 +23,7 @@ class StreamLists {
   void*& inlets() { return inlets_; }
   void*& exits() { return exits_; }
 
-  /// Deletes the lists and clears both handles.
+  /// Deletes the inlet list and, where it is freed, the exit list; clears both handles.
   void release();
   /// Deletes both lists, the exit list included, and makes new empty ones.
   void restart();
@@ -32,9 +34,12 @@ class StreamLists {
   ExitRelease exitRelease_;
 };
 
+/// A stream name that stands for no stream: a blank one or "NONE".
+bool isNoStream(std::string_view name);
 /// Makes the list if there is none.
 void ensureList(void*& list);
-/// Replaces the list by a copy of the one given; a null one is refused. Returns 1 when copied.
+/// Replaces the list by a copy of the one given. Returns 1, or 0 with nothing changed when that is
+/// no list.
 int replaceList(void*& list, void* given);
 /// Copies the list into the one given, when both exist. Returns 1 when copied.
 int copyList(void* list, void* given);

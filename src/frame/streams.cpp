@@ -1,7 +1,9 @@
+#include <algorithm>
 #include <array>
 #include <cstring>
 
 #include "sizewright/frame/size_equip.h"
+#include "sizewright/frame/stream_lists.h"
 #include "sizewright/host/list2.h"
 #include "sizewright/host/text.h"
 #include "sizewright/host/units.h"
@@ -32,10 +34,9 @@ const StreamClassRow* findStreamClass(std::string_view name, const CvdProject* p
 }
 
 bool isStreamClass(int classNumber) {
-  for (const StreamClassRow& row : kStreamClasses) {
-    if (row.classNumber == classNumber) return true;
-  }
-  return false;
+  return std::any_of(
+      kStreamClasses.begin(), kStreamClasses.end(),
+      [classNumber](const StreamClassRow& row) { return row.classNumber == classNumber; });
 }
 
 }  // namespace
@@ -73,8 +74,10 @@ std::optional<CvdStream> CSizeEquip::openStream(std::string_view name) const {
 std::vector<NamedStream> CSizeEquip::openStreams(void* list) const {
   std::vector<NamedStream> streams;
   for (int i = 0; i < list2_length(list); ++i) {
-    const char* name = list2_get_item(list, i, nullptr);
-    if (const std::optional<CvdStream> stream = openStream(name)) streams.push_back({name, *stream});
+    const std::string name = list2_get_item(list, i, nullptr);
+    if (isNoStream(name)) continue;
+    if (const std::optional<CvdStream> stream = openStream(name))
+      streams.push_back({name, *stream});
   }
   return streams;
 }

@@ -19,7 +19,9 @@ struct SlotName {
 };
 
 /// The slot that the item's category uses for a quantity.
-constexpr SlotName slotOf(const char* quantity) { return {quantity, true}; }
+constexpr SlotName slotOf(const char* quantity) {
+  return {quantity, true};
+}
 
 /// Objects that an item reads from.
 enum class From : std::uint8_t { component, simObject, projectObject };
@@ -31,7 +33,7 @@ enum class Lookup : std::uint8_t { inherited, own };
 /// priority.
 template <class Data>
 struct SourceRow {
-  double Data::* field;
+  double Data::*field;
   From from;
   SlotName slot;
   const char* units = nullptr;  // null: the number as it stands
@@ -40,17 +42,17 @@ struct SourceRow {
 
 /// What a form's number means for its field.
 enum class FormRule : std::uint8_t {
-  converted,     // to the field's unit; without a unit the field stays; 0 when absent
-  plain,         // as it stands; 0 when absent
-  plainOrKept,   // as it stands; the field stays when absent
-  ifPositive,    // converted when a unit came with it; the field stays unless positive
+  converted,    // to the field's unit; without a unit the field stays; 0 when absent
+  plain,        // as it stands; 0 when absent
+  plainOrKept,  // as it stands; the field stays when absent
+  ifPositive,   // converted when a unit came with it; the field stays unless positive
 };
 
 /// A number that a form gives.
 template <class Data>
 struct FormInRow {
   SlotName label;
-  double Data::* field;
+  double Data::*field;
   const char* units = nullptr;
   FormRule rule = FormRule::converted;
 };
@@ -59,7 +61,7 @@ struct FormInRow {
 template <class Data>
 struct FormOutRow {
   SlotName label;
-  double Data::* field;
+  double Data::*field;
   const char* internal = nullptr;
   const char* customary = nullptr;
   const char* metric = nullptr;
@@ -79,7 +81,7 @@ enum class Style : std::uint8_t {
 template <class Data>
 struct ResultRow {
   SlotName slot;
-  double Data::* field;
+  double Data::*field;
   When when = When::positive;
   Style style = Style::plain;
   const char* internal = nullptr;

@@ -13,8 +13,7 @@ bool CriteriaService::text(std::string_view, std::string_view, CriterionText&) c
 bool CriteriaService::designPressure(std::string_view, double, std::string_view, double&) const {
   return false;
 }
-bool CriteriaService::designTemperature(std::string_view, double, std::string_view,
-                                        double&) const {
+bool CriteriaService::designTemperature(std::string_view, double, std::string_view, double&) const {
   return false;
 }
 

@@ -44,6 +44,7 @@ class FixedText {
   /// The buffer itself, for operations that write text out; they may use kCapacity characters,
   /// terminator included.
   [[nodiscard]] constexpr char* data() { return buffer_.data(); }
+  [[nodiscard]] constexpr std::size_t capacity() const { return N; }
 
  private:
   std::array<char, N> buffer_{};

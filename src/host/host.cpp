@@ -23,18 +23,40 @@ Host& withoutHost() {
 
 Host::~Host() = default;
 
-ObjectStore& Host::store() { return absent<ObjectStore>(); }
-UnitService& Host::units() { return absent<UnitService>(); }
-CriteriaService& Host::criteria() { return absent<CriteriaService>(); }
-PropertyService& Host::properties() { return absent<PropertyService>(); }
-UtilityService& Host::utilities() { return absent<UtilityService>(); }
-UserInterface& Host::user() { return absent<UserInterface>(); }
-Installation& Host::installation() { return absent<Installation>(); }
-RatingService& Host::rating() { return absent<RatingService>(); }
+ObjectStore& Host::store() {
+  return absent<ObjectStore>();
+}
+UnitService& Host::units() {
+  return absent<UnitService>();
+}
+CriteriaService& Host::criteria() {
+  return absent<CriteriaService>();
+}
+PropertyService& Host::properties() {
+  return absent<PropertyService>();
+}
+UtilityService& Host::utilities() {
+  return absent<UtilityService>();
+}
+UserInterface& Host::user() {
+  return absent<UserInterface>();
+}
+Installation& Host::installation() {
+  return absent<Installation>();
+}
+RatingService& Host::rating() {
+  return absent<RatingService>();
+}
 
-Host& currentHost() { return attached != nullptr ? *attached : withoutHost(); }
+Host& currentHost() {
+  return attached != nullptr ? *attached : withoutHost();
+}
 
-HostScope::HostScope(Host& host) : previous_(attached) { attached = &host; }
-HostScope::~HostScope() { attached = previous_; }
+HostScope::HostScope(Host& host) : previous_(attached) {
+  attached = &host;
+}
+HostScope::~HostScope() {
+  attached = previous_;
+}
 
 }  // namespace sizewright

@@ -7,15 +7,33 @@
 
 namespace sizewright {
 
-bool Installation::directory(std::string_view, std::string&) const { return false; }
-bool Installation::profile(std::string_view, std::string_view, std::string&) const { return false; }
-bool Installation::fileExists(std::string_view) const { return false; }
-std::string Installation::projectDirectory() const { return {}; }
-std::string Installation::currentDirectory() const { return {}; }
-bool Installation::launch(std::string_view, std::string_view) const { return false; }
-bool Installation::ratingProgramPath(std::string_view, std::string&) const { return false; }
-bool Installation::plateFinVersion(std::string&) const { return false; }
-bool Installation::ratingProgramAvailable(std::string_view) const { return false; }
+bool Installation::directory(std::string_view, std::string&) const {
+  return false;
+}
+bool Installation::profile(std::string_view, std::string_view, std::string&) const {
+  return false;
+}
+bool Installation::fileExists(std::string_view) const {
+  return false;
+}
+std::string Installation::projectDirectory() const {
+  return {};
+}
+std::string Installation::currentDirectory() const {
+  return {};
+}
+bool Installation::launch(std::string_view, std::string_view) const {
+  return false;
+}
+bool Installation::ratingProgramPath(std::string_view, std::string&) const {
+  return false;
+}
+bool Installation::plateFinVersion(std::string&) const {
+  return false;
+}
+bool Installation::ratingProgramAvailable(std::string_view) const {
+  return false;
+}
 bool Installation::loadResultText(std::string_view, std::string_view, std::string_view,
                                   std::string_view) {
   return false;

@@ -71,7 +71,9 @@ std::size_t ListPool::reclaim() {
 
 namespace {
 
-ListPool& pool() { return currentHost().lists(); }
+ListPool& pool() {
+  return currentHost().lists();
+}
 
 ListPool::List* listOf(void* handle) {
   if (handle == nullptr) return nullptr;
@@ -92,9 +94,13 @@ void setLength(int* length, std::size_t value) {
 
 }  // namespace
 
-void* list2_create() { return pool().create(); }
+void* list2_create() {
+  return pool().create();
+}
 
-void list2_delete(void* list) { pool().remove(list); }
+void list2_delete(void* list) {
+  pool().remove(list);
+}
 
 int list2_length(void* list) {
   const ListPool::List* entries = listOf(list);
@@ -171,6 +177,8 @@ char* list2_to_list(void* list) {
   return text;
 }
 
-void list_free(char* text) { delete[] text; }
+void list_free(char* text) {
+  delete[] text;
+}
 
 }  // namespace sizewright

@@ -75,8 +75,7 @@ int list2_get_slot_value_n(void* names, void* values, std::string_view label, do
 int list2_get_slot_value_n(const CStrList& names, const CStrList& values, std::string_view label,
                            double* number, char* units);
 /// Adds a label and its value. Returns 1 on success.
-int list2_add_slot_value(void* names, void* values, std::string_view label,
-                         std::string_view value);
+int list2_add_slot_value(void* names, void* values, std::string_view label, std::string_view value);
 
 /// All entries joined by line feeds as a new text, to be freed with `list_free`; null when the
 /// handle is no list.

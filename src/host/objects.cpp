@@ -10,7 +10,9 @@ namespace sizewright {
 
 namespace {
 
-ObjectStore& store() { return currentHost().store(); }
+ObjectStore& store() {
+  return currentHost().store();
+}
 
 template <std::size_t N>
 void copyText(std::string_view text, char* out) {
@@ -46,31 +48,53 @@ std::string flatValue(const CvdSlot& value) {
   return text;
 }
 
-bool isBlank(std::string_view text) { return withoutBlanksAround(text).empty(); }
+bool isBlank(std::string_view text) {
+  return withoutBlanksAround(text).empty();
+}
 
 }  // namespace
 
-int CvdProject::IsValid() const { return store().projectIsValid(instance_) ? 1 : 0; }
-int CvdSimCase::IsValid() const { return store().caseIsValid(instance_) ? 1 : 0; }
-VD_SIMULATOR_TYPE CvdSimCase::SimType() const { return store().simulatorType(instance_); }
+int CvdProject::IsValid() const {
+  return store().projectIsValid(instance_) ? 1 : 0;
+}
+int CvdSimCase::IsValid() const {
+  return store().caseIsValid(instance_) ? 1 : 0;
+}
+VD_SIMULATOR_TYPE CvdSimCase::SimType() const {
+  return store().simulatorType(instance_);
+}
 
 CvdODB::CvdODB(unsigned project, std::string_view name, int create)
     : project_(project), name_(name) {
   if (create != 0 && Exists() == 0) Create();
 }
-int CvdODB::IsValid() const { return name_.empty() ? 0 : 1; }
+int CvdODB::IsValid() const {
+  return name_.empty() ? 0 : 1;
+}
 int CvdODB::Exists() const {
   return store().databaseExists(project_, name_) || store().systemDatabaseExists(name_) ? 1 : 0;
 }
-int CvdODB::Create() { return store().createDatabase(project_, name_) ? 1 : 0; }
-int CvdODB::Delete() { return store().deleteDatabase(project_, name_) ? 1 : 0; }
-int CvdODB::Close(int /*flag*/) { return 1; }
+int CvdODB::Create() {
+  return store().createDatabase(project_, name_) ? 1 : 0;
+}
+int CvdODB::Delete() {
+  return store().deleteDatabase(project_, name_) ? 1 : 0;
+}
+int CvdODB::Close(int /*flag*/) {
+  return 1;
+}
 
 CvdSysODB::CvdSysODB(unsigned /*project*/, std::string_view path, int /*create*/) : path_(path) {}
-int CvdSysODB::IsValid() const { return path_.empty() ? 0 : 1; }
-int CvdSysODB::Exists() const { return store().systemDatabaseExists(path_) ? 1 : 0; }
+int CvdSysODB::IsValid() const {
+  return path_.empty() ? 0 : 1;
+}
+int CvdSysODB::Exists() const {
+  return store().systemDatabaseExists(path_) ? 1 : 0;
+}
 
-int CvdBase::Exists() const { return IsValid() != 0 && store().exists(id_) ? 1 : 0; }
+int CvdBase::Exists() const {
+  return IsValid() != 0 && store().exists(id_) ? 1 : 0;
+}
 
 int CvdValueObject::GetValue(std::string_view slot, CvdSlot& value) const {
   return store().read(Id(), slot, false, value) ? 1 : 0;
@@ -108,7 +132,9 @@ int CvdValueObject::SetValue(std::string_view slot, double number, std::string_v
   return SetValue(slot, CvdSlot::ofNumber(number, units), flag);
 }
 
-int CvdValueObject::DeleteSlots(std::string_view slot) { return store().erase(Id(), slot) ? 1 : 0; }
+int CvdValueObject::DeleteSlots(std::string_view slot) {
+  return store().erase(Id(), slot) ? 1 : 0;
+}
 
 int CvdValueObject::DeleteSlots(const CStrList& slots) {
   int any = 0;
@@ -154,20 +180,23 @@ CvdProjectObject::CvdProjectObject(std::string_view name, int classNumber,
     : CvdValueObject(classNumber == kProjectItem
                          ? store().projectObject(project.UserInstance(), name)
                          : ObjectId::none) {}
-std::string_view CvdProjectObject::Model() const { return store().model(Id()); }
+std::string_view CvdProjectObject::Model() const {
+  return store().model(Id());
+}
 
 int CvdConnector::Disconnect(const CvdProject& /*project*/) {
   return store().disconnect(id_) ? 1 : 0;
 }
-int CvdConnector::Delete() { return store().deleteConnector(id_) ? 1 : 0; }
+int CvdConnector::Delete() {
+  return store().deleteConnector(id_) ? 1 : 0;
+}
 
 CvdConnector CvdConnectorNode::InstantiateConnector(const CvdProject& /*project*/) const {
   return CvdConnector(id_);
 }
 
 CvdStream::CvdStream(std::string_view name, int classNumber, const CvdProject& project, int create)
-    : CvdValueObject(
-          store().stream(project.UserInstance(), classNumber, name, create != 0)),
+    : CvdValueObject(store().stream(project.UserInstance(), classNumber, name, create != 0)),
       classNumber_(classNumber) {}
 
 std::vector<CvdConnectorNode> CvdStream::GetConnectors(int direction) const {
@@ -176,7 +205,9 @@ std::vector<CvdConnectorNode> CvdStream::GetConnectors(int direction) const {
   return nodes;
 }
 
-int VdapipGetISCWrap() { return store().hasConnectionService() ? 1 : 0; }
+int VdapipGetISCWrap() {
+  return store().hasConnectionService() ? 1 : 0;
+}
 
 int DisconnectStreamWrap(const CvdProject& project, std::string_view stream,
                          unsigned long classNumber, int atSource, int atSink) {

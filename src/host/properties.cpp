@@ -10,19 +10,39 @@ namespace sizewright {
 
 using Phase = PropertyService::Phase;
 
-double PropertyService::heatCapacity(std::string_view, double, double, Phase) const { return 0.0; }
-double PropertyService::density(std::string_view, double, double, Phase) const { return 0.0; }
-double PropertyService::viscosity(std::string_view, double, double, Phase) const { return 0.0; }
-double PropertyService::conductivity(std::string_view, double, double, Phase) const { return 0.0; }
+double PropertyService::heatCapacity(std::string_view, double, double, Phase) const {
+  return 0.0;
+}
+double PropertyService::density(std::string_view, double, double, Phase) const {
+  return 0.0;
+}
+double PropertyService::viscosity(std::string_view, double, double, Phase) const {
+  return 0.0;
+}
+double PropertyService::conductivity(std::string_view, double, double, Phase) const {
+  return 0.0;
+}
 double PropertyService::compressibility(std::string_view, double, double, Phase) const {
   return 0.0;
 }
-double PropertyService::heatCapacityRatio(std::string_view, double, double) const { return 0.0; }
-double PropertyService::latentHeat(std::string_view, double, double) const { return 0.0; }
-double PropertyService::boilingPoint(std::string_view, double) const { return 0.0; }
-double PropertyService::molecularWeight(std::string_view) const { return 0.0; }
-bool PropertyService::inPhase(std::string_view, Phase, FluidName&) const { return false; }
-bool PropertyService::completeStream(ObjectId) const { return false; }
+double PropertyService::heatCapacityRatio(std::string_view, double, double) const {
+  return 0.0;
+}
+double PropertyService::latentHeat(std::string_view, double, double) const {
+  return 0.0;
+}
+double PropertyService::boilingPoint(std::string_view, double) const {
+  return 0.0;
+}
+double PropertyService::molecularWeight(std::string_view) const {
+  return 0.0;
+}
+bool PropertyService::inPhase(std::string_view, Phase, FluidName&) const {
+  return false;
+}
+bool PropertyService::completeStream(ObjectId) const {
+  return false;
+}
 double PropertyService::chart(std::string_view, std::string_view, double, double) const {
   return 0.0;
 }
@@ -31,13 +51,17 @@ namespace {
 
 constexpr double kSaturationBand = 0.5;  // DEG K
 
-const PropertyService& service() { return currentHost().properties(); }
+const PropertyService& service() {
+  return currentHost().properties();
+}
 
 Phase phaseOf(std::string_view word) {
   return sameWord(word, "Liquid") ? Phase::liquid : Phase::gas;
 }
 
-constexpr std::string_view wordOf(bool gas) { return gas ? "Gas" : "Liquid"; }
+constexpr std::string_view wordOf(bool gas) {
+  return gas ? "Gas" : "Liquid";
+}
 
 }  // namespace
 
@@ -70,8 +94,12 @@ double lib_lat(std::string_view fluid, double temperature, double pressure) {
 double lib_phas(std::string_view fluid, double /*temperature*/, double pressure) {
   return service().boilingPoint(fluid, pressure);
 }
-double lib_mw(std::string_view fluid) { return service().molecularWeight(fluid); }
-int lib_math_init() { return 1; }
+double lib_mw(std::string_view fluid) {
+  return service().molecularWeight(fluid);
+}
+int lib_math_init() {
+  return 1;
+}
 
 int lib_util_is_sat(std::string_view fluid, double temperature, double pressure, int* saturated) {
   const double boiling = service().boilingPoint(fluid, pressure);

@@ -20,16 +20,16 @@ using Results = std::optional<RatingResults>;
 
 void copyText(const std::string& text, char* out) {
   const FixedText<64> kept(text);
-  std::memcpy(out, kept.c_str(), kept.kCapacity);
+  std::memcpy(out, kept.c_str(), kept.capacity());
 }
 
-bool get(const Results& results, std::optional<int> RatingResults::* field, int& value) {
+bool get(const Results& results, std::optional<int> RatingResults::*field, int& value) {
   if (!results || !((*results).*field)) return false;
   value = *((*results).*field);
   return true;
 }
 
-bool get(const Results& results, std::optional<Measure> RatingResults::* field, double& value,
+bool get(const Results& results, std::optional<Measure> RatingResults::*field, double& value,
          char* units) {
   if (!results || !((*results).*field)) return false;
   value = ((*results).*field)->value;

@@ -6,7 +6,9 @@
 
 namespace sizewright {
 
-CvdSlot CvdSlot::ofText(std::string_view text) { return ofList(splitText(text, '\n')); }
+CvdSlot CvdSlot::ofText(std::string_view text) {
+  return ofList(splitText(text, '\n'));
+}
 
 CvdSlot CvdSlot::ofList(std::vector<std::string> lines) {
   // A line that itself holds line feeds is several lines, so that the value reads back the same.

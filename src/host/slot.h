@@ -35,7 +35,9 @@ class CvdSlot {
   [[nodiscard]] bool HasUnits() const { return IsNumber() && !value_->text.empty(); }
 
   /// The text, or the lines of a list joined by line feeds; empty for a number.
-  [[nodiscard]] const char* Text() const { return IsText() || IsList() ? value_->text.c_str() : ""; }
+  [[nodiscard]] const char* Text() const {
+    return IsText() || IsList() ? value_->text.c_str() : "";
+  }
   /// The lines of a list, or the one line of a text; empty for a number.
   [[nodiscard]] const std::vector<std::string>& List() const;
   /// The number; 0 for anything else.

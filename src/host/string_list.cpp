@@ -22,7 +22,9 @@ CStrList::CStrList(std::initializer_list<std::string_view> texts) {
   for (const std::string_view text : texts) Append(text);
 }
 
-void CStrList::Append(std::string_view text) { entries_.push_back({std::string(text), 0}); }
+void CStrList::Append(std::string_view text) {
+  entries_.push_back({std::string(text), 0});
+}
 
 void CStrList::Append(const CStrList& other) {
   const std::vector<Entry> added = other.entries_;  // a list may be added to itself

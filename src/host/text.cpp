@@ -7,7 +7,6 @@
 #include <cstdio>
 #include <cstring>
 
-
 namespace sizewright {
 
 namespace {
@@ -132,7 +131,7 @@ FixedText<32> wholeNumberText(double number) {
   constexpr double kLimit = 9.2e18;
   FixedText<32> text;
   const double held = std::isnan(number) ? 0.0 : std::clamp(number, -kLimit, kLimit);
-  std::to_chars(text.data(), text.data() + text.kCapacity - 1, static_cast<std::int64_t>(held));
+  std::to_chars(text.data(), text.data() + text.capacity() - 1, static_cast<std::int64_t>(held));
   return text;
 }
 

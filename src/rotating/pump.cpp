@@ -12,29 +12,35 @@ namespace sizewright {
 
 namespace {
 
-constexpr double kWaterDensity = 62.43;          // PCF
-constexpr double kNoTemperature = -10000.0;      // DEG F, below any stream's
-constexpr double kNotSpecified = -999.0;         // DEG F
-constexpr double kNoPressure = -1.0;             // PSI
-constexpr double kMissingLiquidDensity = 62.4;   // PCF
-constexpr double kMissingSolidDensity = 93.6;    // PCF
-constexpr double kDefaultEfficiency = 70.0;      // PERCENT
+constexpr double kWaterDensity = 62.43;         // PCF
+constexpr double kNoTemperature = -10000.0;     // DEG F, below any stream's
+constexpr double kNotSpecified = -999.0;        // DEG F
+constexpr double kNoPressure = -1.0;            // PSI
+constexpr double kMissingLiquidDensity = 62.4;  // PCF
+constexpr double kMissingSolidDensity = 93.6;   // PCF
+constexpr double kDefaultEfficiency = 70.0;     // PERCENT
 
 using D = PumpData;
 using enum From;
 
-void status(int percent, const char* text) { status_write(percent, 3, text); }
+void status(int percent, const char* text) {
+  status_write(percent, 3, text);
+}
 
 // Sources outside the record, by priority.
 constexpr auto kEfficiencyPercent = std::to_array<SourceRow<D>>({
     {&D::efficiencyPercent, component, "CpPumpEfficiencyPercent"},
     {&D::efficiencyPercent, simObject, "PUMP % EFFICIENCY"},
 });
-constexpr auto kEfficiencyFraction = std::to_array<SourceRow<D>>({
-    {&D::efficiencyPercent, component, "PUMP FRACTIONAL EFFICIENCY"},
-    {&D::efficiencyPercent, simObject, "PUMP FRACTIONAL EFFICIENCY"},
-    {&D::efficiencyPercent, component, "PUMP EFFICIENCY"},
-    {&D::efficiencyPercent, simObject, "PUMP EFFICIENCY"},
+struct FractionRow {
+  From from;
+  const char* slot;
+};
+constexpr auto kEfficiencyFractions = std::to_array<FractionRow>({
+    {component, "PUMP FRACTIONAL EFFICIENCY"},
+    {simObject, "PUMP FRACTIONAL EFFICIENCY"},
+    {component, "PUMP EFFICIENCY"},
+    {simObject, "PUMP EFFICIENCY"},
 });
 constexpr auto kProcessSources = std::to_array<SourceRow<D>>({
     {&D::specificGravity, component, "CpFluidSpecificGravity"},
@@ -101,7 +107,8 @@ constexpr const char* kSeveralInlets =
     "rate \nPlease verify inlet stream selection.";
 constexpr const char* kSeveralExits =
     "PUMP SIZING: Multiple Exit Streams Found \nThe Interactive Sizer has selected %s as the "
-    "outlet stream based on the criteria \nthat this is the stream with the maximum total mass flow "
+    "outlet stream based on the criteria \nthat this is the stream with the maximum total mass "
+    "flow "
     "rate \nPlease verify outlet stream selection.";
 
 enum class Category { any, only, notThis, neitherDcpNorEgp };
@@ -167,8 +174,12 @@ void limitPumpRating(std::string_view category, std::string_view item, double& c
   }
 }
 
-bool CPumpObj::isStockPump() const { return itemIs({"HD STOCK"}); }
-const char* CPumpObj::capacityUnit() const { return isStockPump() ? "LB/H" : "CFH"; }
+bool CPumpObj::isStockPump() const {
+  return itemIs({"HD STOCK"});
+}
+const char* CPumpObj::capacityUnit() const {
+  return isStockPump() ? "LB/H" : "CFH";
+}
 
 int CPumpObj::Size() {
   int result = 1;
@@ -198,9 +209,9 @@ void CPumpObj::GetDesCriteriaInfo() {
 }
 
 int CPumpObj::GetStreamInfo() {
-  status(35, "Checking inlets..");
+  checkInlets();
   findStreams(inlets(), kInlet, "Inlet stream", "INLET");
-  status(35, "Checking exits...");
+  checkExits();
   findStreams(exits(), kExit, "Exit stream", "OUTLET");
   return list2_length(inlets()) > 0 ? 1 : 0;
 }
@@ -220,7 +231,9 @@ void CPumpObj::readRecord(From from) {
   read(rows);
 }
 
-void CPumpObj::pump_stp_get_vpecomp_info() { readRecord(From::component); }
+void CPumpObj::pump_stp_get_vpecomp_info() {
+  readRecord(From::component);
+}
 
 void CPumpObj::pump_stp_get_block_info() {
   readSource(data().overdesignFactor, From::projectObject, "Pump overdesign factor", nullptr);
@@ -228,12 +241,12 @@ void CPumpObj::pump_stp_get_block_info() {
 }
 
 void CPumpObj::pump_stp_get_proc_info() {
-  double& percent = data().efficiencyPercent;
   read(kEfficiencyPercent);
-  if (!(percent > 0.0)) {
-    read(kEfficiencyFraction);
-    if (percent > 1.0) percent /= 100.0;
-    percent *= 100.0;
+  if (!(data().efficiencyPercent > 0.0)) {
+    double fraction = 0.0;
+    for (const auto& [from, slot] : kEfficiencyFractions) readSource(fraction, from, slot, nullptr);
+    if (fraction > 1.0) fraction /= 100.0;
+    if (fraction > 0.0) data().efficiencyPercent = fraction * 100.0;
   }
   read(kProcessSources);
 }
@@ -245,8 +258,7 @@ int CPumpObj::pump_stp() {
   pump_stp_get_design_conditions();
   if (!(data().fluidDensity > 0.0)) {
     const bool flows = data().totalVolumeFlow > 0.0;
-    data().fluidDensity =
-        flows ? data().totalMassFlow / data().totalVolumeFlow : kWaterDensity;
+    data().fluidDensity = flows ? data().totalMassFlow / data().totalVolumeFlow : kWaterDensity;
   }
   status(65, "Obtained process information.");
   return 1;
@@ -272,13 +284,12 @@ void CPumpObj::pump_stp_get_inlets() {
     const double liquid = readOr(&stream, "LIQUID MASS FLOW", "LB/H", 0.0);
     const double solid = readOr(&stream, "SOLID MASS FLOW", "LB/H", 0.0);
     massFlow += liquid + solid;
-    volumeFlow +=
-        liquid / readOr(&stream, "LIQUID MASS DENSITY", "PCF", kMissingLiquidDensity) +
-        solid / readOr(&stream, "SOLID MASS DENSITY", "PCF", kMissingSolidDensity);
+    volumeFlow += liquid / readOr(&stream, "LIQUID MASS DENSITY", "PCF", kMissingLiquidDensity) +
+                  solid / readOr(&stream, "SOLID MASS DENSITY", "PCF", kMissingSolidDensity);
     vapor = readOr(&stream, "VAPOR MASS FLOW", "LB/H", 0.0) > 0.0 || vapor;
     viscosity.take(readOr(&stream, "LIQUID VISCOSITY", "CPOISE", 0.0));
     pressure.take(readOr(&stream, "PRESSURE", "PSI", 0.0));
-    temperature.take(readOr(&stream, "TEMPERATURE", "DEG F", kNoTemperature));
+    temperature.take(readSentinel(&stream, "TEMPERATURE", "DEG F", kNoTemperature));
     molecularWeight.take(readOr(&stream, "MOLECULAR WEIGHT", nullptr, 0.0));
   }
   if (vapor) {
@@ -286,7 +297,7 @@ void CPumpObj::pump_stp_get_inlets() {
         "Inlet stream(s) may contain vapor phase. Please check inlet stream(s) \n(Any vapor flow "
         "present, will not be used in estimation of pump capacity)");
   }
-  // kept: no stream fills the minimum density
+  setIfNotPositive(data().minFluidDensity, 0.0);  // kept: no stream fills it
   setIfNotPositive(data().totalMassFlow, massFlow);
   setIfNotPositive(data().totalVolumeFlow, volumeFlow);
   setIfNotPositive(data().minMolecularWeight, molecularWeight.value());
@@ -308,7 +319,7 @@ void CPumpObj::pump_stp_get_exits() {
   for (auto& [name, stream] : openStreams(exits())) {
     vapor = readOr(&stream, "VAPOR MASS FLOW", "LB/H", 0.0) > 0.0 || vapor;
     pressure.take(readOr(&stream, "PRESSURE", "PSI", 0.0));
-    temperature.take(readOr(&stream, "TEMPERATURE", "DEG F", kNoTemperature));
+    temperature.take(readSentinel(&stream, "TEMPERATURE", "DEG F", kNoTemperature));
   }
   if (vapor) warn("Exit stream(s) may contain vapor phase. Please check exit stream(s)");
   setIfNotPositive(data().maxExitPressure, pressure.value());
@@ -328,8 +339,8 @@ void CPumpObj::pump_stp_get_design_pressure() {
   double floor = 0.0;
   GetValueFromDesCriteria("Minimum Design Pressure", floor, "PSI");
   const double exit = readComponentOrBlock("EXIT PRESSURE", "EXIT PRESSURE", "PSI", kNoPressure);
-  const double specified = readComponentOrBlock("CpDesignGaugePressure", "Design press. -gauge",
-                                                "PSI", kNoPressure);
+  const double specified =
+      readComponentOrBlock("CpDesignGaugePressure", "Design press. -gauge", "PSI", kNoPressure);
   const double operating = std::max(data().maxExitPressure, exit);
   double& design = data().designPressure;
   if (specified >= operating) {
@@ -343,12 +354,14 @@ void CPumpObj::pump_stp_get_design_pressure() {
 void CPumpObj::pump_stp_get_design_temp() {
   double floor = 0.0;
   GetValueFromDesCriteria("Minimum Design Temperature", floor, "DEG F");
-  const double outlet = readComponentOrBlock("CpDesignTemperatureOutlet", "EXIT TEMPERATURE",
-                                             "DEG F", kNotSpecified);
+  const double outlet =
+      readComponentOrBlock("CpDesignTemperatureOutlet", "EXIT TEMPERATURE", "DEG F", kNotSpecified);
   const double specified =
       readComponentOrBlock("CpDesignTemperature", "Design temperature", "DEG F", kNotSpecified);
-  const double temperature =
-      readComponentOrBlock("CpTemperature", "TEMPERATURE", "DEG F", kNotSpecified);
+  double temperature = kNotSpecified - 0.9;
+  if (lib_get_and_adjust_api(component.get(), "CpTemperature", &temperature, "DEG F") == 0) {
+    temperature = readSentinel(simObject.get(), "TEMPERATURE", "DEG F", kNotSpecified);
+  }
   const double operating = std::max({outlet, temperature, data().maxExitTemperature});
   double& design = data().designTemperature;
   design = specified;
@@ -411,16 +424,15 @@ double CPumpObj::pump_get_final_capacity(double flow, double factor) {
     return 0.0;
   }
   const double capacity = flow * factor;
-  tell(calculations,
-       formatText("Calc Pump Capacity(%12.2f cuft/hr) = Vol Flowrate(%12.2f cuft/hr)"
-                  "*OverDesignFactor((%4.2f cuft/hr)",
-                  capacity, flow, factor));
+  tell(calculations, formatText("Calc Pump Capacity(%12.2f cuft/hr) = Vol Flowrate(%12.2f cuft/hr)"
+                                "*OverDesignFactor((%4.2f cuft/hr)",
+                                capacity, flow, factor));
   return capacity;
 }
 
 // A zero power tells the evaluation engine to estimate it.
 double CPumpObj::pump_get_final_driver_power(double /*factor*/) {
-  tell(calculations,
+  tell(notes,
        "Driver Power is not specified by the user, and will be estimated by the Vardex evaluation "
        "engine.");
   return 0.0;
@@ -459,8 +471,7 @@ int CPumpObj::SaveParameters() {
 }
 
 void CPumpObj::pump_stp_write_design_pressure() {
-  writeResult("CpDesignGaugePressure", data().designPressure, When::always, Style::converted,
-              "PSI", "PSIG", "KPA");
+  writeGaugePressure("CpDesignGaugePressure", data().designPressure);
 }
 
 void CPumpObj::pump_stp_write_design_temp() {

@@ -4,12 +4,12 @@
 
 namespace sizewright {
 
-/// What is known of a pump; 0 means not given.
+/// What is known of a pump; 0 means not given. There is one item unless said otherwise.
 struct PumpData {
   double overdesignFactor = 0.0;
-  double totalMassFlow = 0.0;        // LB/H
-  double totalVolumeFlow = 0.0;      // CFH
-  double minFluidDensity = 0.0;      // PCF; never filled from streams
+  double totalMassFlow = 0.0;    // LB/H
+  double totalVolumeFlow = 0.0;  // CFH
+  double minFluidDensity = 0.0;  // PCF; never filled from streams
   double minMolecularWeight = 0.0;
   double minInletPressure = 0.0;     // PSI
   double maxExitPressure = 0.0;      // PSI
@@ -32,9 +32,9 @@ struct PumpData {
 /// divided by the specific gravity.
 double pumpHead(double exitPressure, double inletPressure, double specificGravity);
 
-/// Rating limits of a pump type: raises a capacity (GPM) at or below the lower limit to it, and
-/// splits one above the upper limit into `number` items, leaving the limit as capacity. A type
-/// without limits is left alone.
+/// Rating limits of a pump type: raises a capacity (GPM) at or below the lower limit, and lowers
+/// one above the upper limit to it with `number` items instead. A type without limits is left
+/// alone.
 void limitPumpRating(std::string_view category, std::string_view item, double& capacity,
                      double& number);
 
