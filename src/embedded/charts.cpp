@@ -50,9 +50,9 @@ double chartValue(const Chart& chart, double x, double y) {
   if (!isSound(chart) || std::isnan(x) || std::isnan(y)) return 0.0;
   const Place i = placeOf(chart.x, x, [](double value) { return value; });
   const Place j = placeOf(chart.y, y, [](double value) { return std::log10(value); });
-  const double value = between(between(chart.z[i.low][j.low], chart.z[i.low][j.high], j.share),
-                               between(chart.z[i.high][j.low], chart.z[i.high][j.high], j.share),
-                               i.share);
+  const double value =
+      between(between(chart.z[i.low][j.low], chart.z[i.low][j.high], j.share),
+              between(chart.z[i.high][j.low], chart.z[i.high][j.high], j.share), i.share);
   return std::isfinite(value) ? value : 0.0;
 }
 

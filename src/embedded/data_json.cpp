@@ -197,7 +197,7 @@ Chart chartFromJson(const ordered_json& json) {
   objectOf(json);
   Chart chart;
   for (const char* key : {"x", "y", "z"}) {
-    if (!json.contains(key)) throw std::runtime_error("expected \"x\", \"y\" and \"z\"");
+    if (!json.contains(key)) throw std::runtime_error(R"(expected "x", "y" and "z")");
   }
   chart.x = numbersOf(json["x"]);
   chart.y = numbersOf(json["y"]);

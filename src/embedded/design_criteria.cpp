@@ -22,8 +22,7 @@ const DesignRule* rowFor(const std::vector<DesignRule>& rows, double operating) 
   const DesignRule* best = nullptr;
   for (const DesignRule& row : rows) {
     if (row.from && !(*row.from <= operating)) continue;
-    const bool later =
-        best == nullptr || !best->from || (row.from && *row.from >= *best->from);
+    const bool later = best == nullptr || !best->from || (row.from && *row.from >= *best->from);
     if (later) best = &row;
   }
   return best;

@@ -11,8 +11,8 @@ namespace sizewright {
 
 /// Design criteria out of a store's criteria objects, and design pressure and temperature by rules.
 ///
-/// A criterion is a slot of the object that bears the model text, as it stands or without the blanks
-/// around it; the object "*" serves where that has no such slot.
+/// A criterion is a slot of the object that bears the model text, as it stands or without the
+/// blanks around it; the object "*" serves where that has no such slot.
 class DesignCriteria : public CriteriaService {
  public:
   /// Views all three, which must outlive it.

@@ -16,11 +16,19 @@ namespace {
 
 using Phase = PropertyService::Phase;
 
-bool isUsable(double argument) { return std::isfinite(argument) && argument >= 0.0; }
-bool isAboveZero(double argument) { return std::isfinite(argument) && argument > 0.0; }
+bool isUsable(double argument) {
+  return std::isfinite(argument) && argument >= 0.0;
+}
+bool isAboveZero(double argument) {
+  return std::isfinite(argument) && argument > 0.0;
+}
 
-double answer(double value) { return isAboveZero(value) ? value : 0.0; }
-double answer(const std::optional<double>& value) { return answer(value.value_or(0.0)); }
+double answer(double value) {
+  return isAboveZero(value) ? value : 0.0;
+}
+double answer(const std::optional<double>& value) {
+  return answer(value.value_or(0.0));
+}
 
 const std::optional<Fit>& ofPhase(const Fluid& fluid, std::optional<Fit> Fluid::*liquid,
                                   std::optional<Fit> Fluid::*gas, Phase phase) {
@@ -30,8 +38,8 @@ const std::optional<Fit>& ofPhase(const Fluid& fluid, std::optional<Fit> Fluid::
 // The temperature held between the ends of a fit.
 double heldTemperature(const Fit& fit, double temperature) {
   if (!fit.validTemperatures) return temperature;
-  const auto& [low, high] = *fit.validTemperatures;
-  return std::max(std::min(temperature, high), low);
+  const auto [low, high] = std::minmax((*fit.validTemperatures)[0], (*fit.validTemperatures)[1]);
+  return std::clamp(temperature, low, high);
 }
 
 double line(const std::optional<Fit>& fit, double temperature) {
@@ -54,8 +62,7 @@ bool hasCriticalPoint(const Fluid& fluid) {
 std::optional<double> acentricFactor(const Fluid& fluid) {
   if (fluid.acentricFactor) return fluid.acentricFactor;
   if (!fluid.boilingPoint || !hasCriticalPoint(fluid)) return std::nullopt;
-  return acentricFactorOf(*fluid.boilingPoint, *fluid.criticalTemperature,
-                          *fluid.criticalPressure);
+  return acentricFactorOf(*fluid.boilingPoint, *fluid.criticalTemperature, *fluid.criticalPressure);
 }
 
 std::optional<VaporPressureCurve> curveOf(const Fluid& fluid) {
@@ -107,8 +114,7 @@ double boilingPointOf(const Fluid& fluid, double pressure) {
   // 1 BTU/LB is 1/1.8 CAL/G.
   const double boiling = boilingTemperature(
       *fluid.boilingPoint, *fluid.latentHeat / 1.8 * *fluid.molecularWeight, pressure);
-  return boiling > 0.0 ? std::min(boiling, *fluid.criticalTemperature)
-                       : *fluid.criticalTemperature;
+  return boiling > 0.0 ? std::min(boiling, *fluid.criticalTemperature) : *fluid.criticalTemperature;
 }
 
 // --- Classes that are one fluid in two phases ---------------------------------------------------

@@ -9,10 +9,10 @@ namespace sizewright {
 
 /// Physical properties from the data of fluid classes, and charts.
 ///
-/// A fluid is named without regard to case and surrounding blanks; a name that is not found is tried
-/// with "Compound - " before it. Whatever the data of a class do not give, and whatever does not
-/// come out as a finite number above 0, is answered with 0; temperatures and pressures that are not
-/// finite, or below 0, are as good as missing.
+/// A fluid is named without regard to case and surrounding blanks; a name that is not found is
+/// tried with "Compound - " before it. Whatever the data of a class do not give, and whatever does
+/// not come out as a finite number above 0, is answered with 0; temperatures and pressures that are
+/// not finite, or below 0, are as good as missing.
 ///
 /// How properties depend on their arguments:
 ///  - heat capacities, viscosities and conductivities by the class's fits, at any pressure; beyond

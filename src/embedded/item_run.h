@@ -6,6 +6,7 @@
 #include <string_view>
 
 #include "sizewright/embedded/embedded_host.h"
+#include "sizewright/embedded/registry.h"
 #include "sizewright/frame/size_equip.h"
 
 namespace sizewright {
@@ -28,12 +29,15 @@ class ItemRun {
   CSizeEquip& object() { return *object_; }
   [[nodiscard]] std::string_view className() const { return className_; }
 
+  /// Restores the object's fresh state.
+  int initialize() { return equipment_->initialize(*object_); }
   /// Sizes, commits and files the item. True when it was sized.
   bool size();
 
  private:
   HostScope scope_;
   std::string_view className_;
+  const EquipmentClass* equipment_;
   std::unique_ptr<CSizeEquip> object_;
 };
 

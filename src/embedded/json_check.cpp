@@ -128,9 +128,13 @@ bool isOfType(const JsonRule& rule, const ordered_json& value) {
   return type->is_array() ? std::any_of(type->begin(), type->end(), matches) : matches(*type);
 }
 
+bool isStructure(const JsonRule& rule) {
+  return isOfType(rule, ordered_json::object()) || isOfType(rule, ordered_json::array());
+}
+
 std::string expected(const JsonRule& rule, const ordered_json& value) {
   std::string result = "expected " + rule.source->at("title").get<std::string>();
-  if (value.is_structured()) return result;
+  if (value.is_structured() || isStructure(rule)) return result;
   if (value.is_string()) {
     return result + ", got \"" + shortened(value.get_ref<const std::string&>()) + '"';
   }

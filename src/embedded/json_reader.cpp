@@ -88,7 +88,7 @@ class Events {
 // Listens to a whole document.
 class DocumentListener : public JsonListener {
  public:
-  DocumentListener() { builder_.begin({}, 0); }
+  explicit DocumentListener(bool anyNames) { builder_.begin({}, 0, anyNames); }
   void scalar(ordered_json value) override { builder_.scalar(std::move(value)); }
   void open(bool isObject) override { builder_.open(isObject); }
   void close() override { builder_.close(); }
@@ -107,8 +107,8 @@ void parseJson(std::string_view text, JsonListener& listener) {
   ordered_json::sax_parse(text.begin(), text.end(), &events);
 }
 
-ordered_json parseJson(std::string_view text) {
-  DocumentListener listener;
+ordered_json parseJson(std::string_view text, bool anyNames) {
+  DocumentListener listener(anyNames);
   parseJson(text, listener);
   return listener.take();
 }
@@ -122,6 +122,11 @@ void JsonBuilder::begin(std::string path, std::size_t depth, bool anyNames) {
 }
 
 bool JsonBuilder::scalar(ordered_json value) {
+  if (value.is_string()) {
+    // The lines of a text become values of their own.
+    const auto& text = value.get_ref<const std::string&>();
+    count_ += static_cast<std::size_t>(std::count(text.begin(), text.end(), '\n'));
+  }
   return add(std::move(value));
 }
 

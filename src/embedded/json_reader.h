@@ -14,7 +14,7 @@ namespace sizewright {
 
 /// Levels of arrays and objects that a document may have.
 inline constexpr std::size_t kMaxJsonDepth = 32;
-/// Values that one entry of a document may have.
+/// Values, and lines of texts, that one entry of a document may have.
 inline constexpr std::size_t kMaxJsonValues = 1'000'000;
 
 /// Hears a JSON document as it is parsed.
@@ -36,8 +36,9 @@ class JsonListener {
 /// path where a number is out of range.
 void parseJson(std::string_view text, JsonListener& listener);
 
-/// Parses a JSON text into a document; its objects must not hold a name twice, in whatever case.
-nlohmann::ordered_json parseJson(std::string_view text);
+/// Parses a JSON text into a document. Its objects must not hold a name twice, in whatever case,
+/// nor an empty one; where `anyNames`, only names that are the same to the letter are the same.
+nlohmann::ordered_json parseJson(std::string_view text, bool anyNames = false);
 
 /// Puts a value together from what a listener hears. Throws InputError at names that come twice in
 /// an object, empty names, and values that are too deep or too many.

@@ -16,12 +16,12 @@ struct FluidConstants {
   double beta, gamma;
 };
 
-constexpr FluidConstants kSimpleFluid = {0.1181193, 0.265728,  0.154790, 0.030323,
-                                         0.0236744, 0.0186984, 0.0,      0.042724,
-                                         1.55488e-5, 6.23689e-5, 0.65392, 0.060167};
-constexpr FluidConstants kReferenceFluid = {0.2026579, 0.331511,  0.027655, 0.203488,
-                                            0.0313385, 0.0503618, 0.016901, 0.041577,
-                                            4.8736e-5, 7.40336e-6, 1.226,   0.03754};
+constexpr FluidConstants kSimpleFluid = {0.1181193,  0.265728,   0.154790, 0.030323,
+                                         0.0236744,  0.0186984,  0.0,      0.042724,
+                                         1.55488e-5, 6.23689e-5, 0.65392,  0.060167};
+constexpr FluidConstants kReferenceFluid = {0.2026579, 0.331511,   0.027655, 0.203488,
+                                            0.0313385, 0.0503618,  0.016901, 0.041577,
+                                            4.8736e-5, 7.40336e-6, 1.226,    0.03754};
 constexpr double kReferenceAcentricFactor = 0.3978;
 
 // The equation at one reduced temperature, over the reduced density r = R Tc / (Pc V):
@@ -46,7 +46,8 @@ class Isotherm {
   // d Pr / d r
   [[nodiscard]] double slope(double r) const {
     const double r2 = r * r;
-    const double power = 3.0 * beta_ + 5.0 * gamma_ * r2 - 2.0 * gamma_ * r2 * (beta_ + gamma_ * r2);
+    const double power =
+        3.0 * beta_ + 5.0 * gamma_ * r2 - 2.0 * gamma_ * r2 * (beta_ + gamma_ * r2);
     return t_ * (1.0 + 2.0 * b_ * r + 3.0 * c_ * r2 + 6.0 * d_ * r2 * r2 * r +
                  e_ * r2 * power * std::exp(-gamma_ * r2));
   }
@@ -79,8 +80,13 @@ double gasRoot(const Isotherm& isotherm, double pressure) {
 
 // --- Vapor pressure -----------------------------------------------------------------------------
 
+double sixthPower(double t) {
+  const double cube = t * t * t;
+  return cube * cube;
+}
+
 double riedelFunction(double t) {
-  return -35.0 + 36.0 / t + 42.0 * std::log(t) - std::pow(t, 6.0);
+  return -35.0 + 36.0 / t + 42.0 * std::log(t) - sixthPower(t);
 }
 
 constexpr double kAcentricTemperature = 0.7;  // reduced, of the definition of the acentric factor
@@ -93,7 +99,9 @@ double fittedConstant(double standard, double rate, double target) {
   return standard + rate * (target - rate * standard) / (rate * rate + kSpread * kSpread);
 }
 
-double positiveOrZero(double value) { return std::isfinite(value) && value > 0.0 ? value : 0.0; }
+double positiveOrZero(double value) {
+  return std::isfinite(value) && value > 0.0 ? value : 0.0;
+}
 
 }  // namespace
 
@@ -104,14 +112,13 @@ double gasCompressibility(double reducedTemperature, double reducedPressure,
   const double t = std::max(reducedTemperature, kLowest);
   const double simple = gasRoot(Isotherm(kSimpleFluid, t), reducedPressure);
   const double reference = gasRoot(Isotherm(kReferenceFluid, t), reducedPressure);
-  return positiveOrZero(simple +
-                        acentricFactor / kReferenceAcentricFactor * (reference - simple));
+  return positiveOrZero(simple + acentricFactor / kReferenceAcentricFactor * (reference - simple));
 }
 
 double acentricFactorOf(double boilingPoint, double criticalTemperature, double criticalPressure) {
   const double t = boilingPoint / criticalTemperature;
   if (!(t > 0.0 && t < 1.0) || !(criticalPressure > 1.0)) return 0.0;
-  const double t6 = std::pow(t, 6.0);
+  const double t6 = sixthPower(t);
   const double f0 = 5.92714 - 6.09648 / t - 1.28862 * std::log(t) + 0.169347 * t6;
   const double f1 = 15.2518 - 15.6875 / t - 13.4721 * std::log(t) + 0.43577 * t6;
   const double factor = (-std::log(criticalPressure) - f0) / f1;
@@ -200,13 +207,13 @@ double gasDensity(double temperature, double pressure, double molecularWeight,
 double liquidDensityAt(double temperature, double density, double densityTemperature,
                        double criticalTemperature, double acentricFactor) {
   const double base = 0.29056 - 0.08775 * acentricFactor;
-  if (!(temperature > 0.0) || !(densityTemperature > 0.0) || !(criticalTemperature > 0.0)) return 0.0;
+  if (!(temperature > 0.0) || !(densityTemperature > 0.0) || !(criticalTemperature > 0.0))
+    return 0.0;
   if (!(base > 0.0)) return 0.0;
   const auto power = [criticalTemperature](double at) {
     return std::pow(std::max(1.0 - at / criticalTemperature, 0.0), 2.0 / 7.0);
   };
-  return positiveOrZero(density *
-                        std::pow(base, power(densityTemperature) - power(temperature)));
+  return positiveOrZero(density * std::pow(base, power(densityTemperature) - power(temperature)));
 }
 
 }  // namespace sizewright

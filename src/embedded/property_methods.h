@@ -17,8 +17,8 @@ inline constexpr double kGasConstantVolume = 82.057366;
 /// Lee and Kesler, AIChE J. 21 (1975) 510: Z = Z0 + (w / 0.3978) (Zr - Z0), where Z0 (simple fluid)
 /// and Zr (n-octane) come from one modified Benedict-Webb-Rubin equation with two sets of
 /// constants. Range: Tr 0.3 to 4, Pr 0 to 10; within 2 % for nonpolar gases away from the critical
-/// point. A lower Tr counts as 0.3. Where the equation has no gas root the last one before it
-/// serves.
+/// point; hydrogen near its boiling point is up to 10 % off. A lower Tr counts as 0.3. Where the
+/// equation has no gas root the last one before it serves.
 double gasCompressibility(double reducedTemperature, double reducedPressure, double acentricFactor);
 
 /// Acentric factor from the normal boiling point.

@@ -23,8 +23,13 @@ std::unique_ptr<CSizeEquip> makeSelection(const SelectionForm& form) {
 }
 
 template <class Equipment>
+int initialize(CSizeEquip& object) {
+  return dynamic_cast<Equipment&>(object).Initialize();
+}
+
+template <class Equipment>
 constexpr EquipmentClass entry(std::string_view name) {
-  return {name, makeDesign<Equipment>, makeSelection<Equipment>};
+  return {name, makeDesign<Equipment>, makeSelection<Equipment>, initialize<Equipment>};
 }
 
 constexpr auto kAvailable = std::to_array<EquipmentClass>({

@@ -33,6 +33,8 @@ struct EquipmentClass {
   std::string_view name;
   std::unique_ptr<CSizeEquip> (*design)(const DesignForm&);
   std::unique_ptr<CSizeEquip> (*selection)(const SelectionForm&);
+  /// Restores the fresh state of an object of this class.
+  int (*initialize)(CSizeEquip& object);
 };
 
 /// Names of all equipment classes, those that are not available yet included.

@@ -44,7 +44,9 @@ constexpr std::uint64_t toLowerWord(std::uint64_t word) {
   return word | (capital >> 2U);
 }
 
-constexpr bool isBlank(char c) { return c == ' ' || c == '\t'; }
+constexpr bool isBlank(char c) {
+  return c == ' ' || c == '\t';
+}
 
 template <class Word>
 std::uint64_t load(const char* text) {
@@ -164,8 +166,8 @@ Expression split(const std::string& text) {
   const auto [end, fault] =
       std::from_chars(rest.data(), rest.data() + rest.size(), expression.zero);
   if (fault != std::errc{}) throw std::runtime_error("\"" + text + "\" has no zero point");
-  expression.zeroUnit = withoutBlanksAround(
-      rest.substr(static_cast<std::size_t>(end - rest.data())));
+  expression.zeroUnit =
+      withoutBlanksAround(rest.substr(static_cast<std::size_t>(end - rest.data())));
   return expression;
 }
 

@@ -9,7 +9,9 @@ namespace {
 
 using nlohmann::ordered_json;
 
-ordered_json json(const char* text) { return ordered_json::parse(text); }
+ordered_json json(const char* text) {
+  return ordered_json::parse(text);
+}
 
 TEST(SlotJson, Each_form_is_read) {
   EXPECT_TRUE(slotFromJson(json(R"("text")")) == CvdSlot::ofText("text"));
@@ -36,10 +38,18 @@ TEST(SlotJson, A_list_is_written_only_when_it_has_several_lines) {
 
 TEST(SlotJson, What_is_written_reads_back_the_same) {
   const CvdSlot slots[] = {
-      CvdSlot::ofText(""),          CvdSlot::ofText("a \"b\" \\ \t"), CvdSlot::ofText("\n"),
-      CvdSlot::ofText("12.5"),      CvdSlot::ofNumber(0.1),           CvdSlot::ofNumber(-0.0),
-      CvdSlot::ofNumber(1e300),     CvdSlot::ofNumber(5e-324),        CvdSlot::ofNumber(1.0 / 3.0),
-      CvdSlot::ofNumber(70, "DEG F"), CvdSlot::ofList({"", "", "x"}), CvdSlot::ofNumber(123456789012),
+      CvdSlot::ofText(""),
+      CvdSlot::ofText("a \"b\" \\ \t"),
+      CvdSlot::ofText("\n"),
+      CvdSlot::ofText("12.5"),
+      CvdSlot::ofNumber(0.1),
+      CvdSlot::ofNumber(-0.0),
+      CvdSlot::ofNumber(1e300),
+      CvdSlot::ofNumber(5e-324),
+      CvdSlot::ofNumber(1.0 / 3.0),
+      CvdSlot::ofNumber(70, "DEG F"),
+      CvdSlot::ofList({"", "", "x"}),
+      CvdSlot::ofNumber(123456789012),
   };
   for (const CvdSlot& slot : slots) {
     const std::string text = slotToJson(slot).dump();
@@ -59,9 +69,17 @@ TEST(SlotJson, A_text_that_is_not_UTF8_is_kept_and_can_be_dumped_with_replacemen
 }
 
 TEST(SlotJson, Other_shapes_are_refused) {
-  const char* const texts[] = {"null",     "true",        "{}",         R"({"a": 1})", "[1]",
-                               "[1, 2]",   R"([1, "PSI", "x"])",        R"(["a", 1])", "[null]",
-                               R"([["a"]])", R"([12.5, null])"};
+  const char* const texts[] = {"null",
+                               "true",
+                               "{}",
+                               R"({"a": 1})",
+                               "[1]",
+                               "[1, 2]",
+                               R"([1, "PSI", "x"])",
+                               R"(["a", 1])",
+                               "[null]",
+                               R"([["a"]])",
+                               R"([12.5, null])"};
   for (const char* text : texts) {
     EXPECT_THROW(slotFromJson(json(text)), std::runtime_error) << text;
   }
@@ -103,17 +121,19 @@ TEST(FluidJson, Every_member_is_read_and_written) {
 }
 
 TEST(FluidJson, What_is_absent_stays_absent) {
-  const Fluid fluid = fluidFromJson(json(R"({"molecular weight": 30, "representative compound": "x"})"));
+  const Fluid fluid =
+      fluidFromJson(json(R"({"molecular weight": 30, "representative compound": "x"})"));
   EXPECT_EQ(fluid.molecularWeight, 30.0);
   EXPECT_FALSE(fluid.boilingPoint || fluid.z || fluid.gasViscosity);
   EXPECT_EQ(fluidToJson(fluid).dump(), R"({"molecular weight":30.0})");
 }
 
 TEST(FluidJson, Other_shapes_are_refused) {
-  for (const char* text : {"[]", R"({"z": "1"})", R"({"gas viscosity": 1})",
-                           R"({"gas viscosity": [1]})", R"({"gas viscosity": [1, "2"]})",
-                           R"({"gas viscosity": [1, 2], "valid temperatures": [1, 2]})",
-                           R"({"gas viscosity": [1, 2], "valid temperatures": {"gas viscosity": 3}})"}) {
+  for (const char* text :
+       {"[]", R"({"z": "1"})", R"({"gas viscosity": 1})", R"({"gas viscosity": [1]})",
+        R"({"gas viscosity": [1, "2"]})",
+        R"({"gas viscosity": [1, 2], "valid temperatures": [1, 2]})",
+        R"({"gas viscosity": [1, 2], "valid temperatures": {"gas viscosity": 3}})"}) {
     EXPECT_THROW(fluidFromJson(json(text)), std::runtime_error) << text;
   }
 }
@@ -129,8 +149,9 @@ TEST(ChartJson, Is_read_and_written) {
 }
 
 TEST(ChartJson, Other_shapes_are_refused) {
-  for (const char* text : {"[]", R"({"x": [], "y": []})", R"({"x": 1, "y": [], "z": []})",
-                           R"({"x": [], "y": ["a"], "z": []})", R"({"x": [], "y": [], "z": [1]})"}) {
+  for (const char* text :
+       {"[]", R"({"x": [], "y": []})", R"({"x": 1, "y": [], "z": []})",
+        R"({"x": [], "y": ["a"], "z": []})", R"({"x": [], "y": [], "z": [1]})"}) {
     EXPECT_THROW(chartFromJson(json(text)), std::runtime_error) << text;
   }
 }

@@ -127,9 +127,9 @@ class DesignRuleTest : public testing::Test {
 };
 
 TEST_F(DesignRuleTest, The_larger_of_the_two_formulas_serves) {
-  EXPECT_EQ(pressure(100.0), 125.0);               // 110 against 125
-  EXPECT_DOUBLE_EQ(pressure(250.0), 275.0);        // where both are the same
-  EXPECT_DOUBLE_EQ(pressure(1000.0), 1100.0);      // 1100 against 1025
+  EXPECT_EQ(pressure(100.0), 125.0);           // 110 against 125
+  EXPECT_DOUBLE_EQ(pressure(250.0), 275.0);    // where both are the same
+  EXPECT_DOUBLE_EQ(pressure(1000.0), 1100.0);  // 1100 against 1025
   EXPECT_EQ(temperature(300.0), 350.0);
 }
 
@@ -148,7 +148,8 @@ TEST_F(DesignRuleTest, Both_values_are_in_the_callers_unit) {
 }
 
 TEST_F(DesignRuleTest, The_row_with_the_greatest_start_below_the_value_serves_in_any_order) {
-  rules.temperature = {row(650.0, 1.0, 25.0, 0.0), row({}, 1.0, 10.0, 0.0), row(100.0, 1.0, 50.0, 0.0)};
+  rules.temperature = {row(650.0, 1.0, 25.0, 0.0), row({}, 1.0, 10.0, 0.0),
+                       row(100.0, 1.0, 50.0, 0.0)};
   EXPECT_EQ(temperature(0.0), 10.0);
   EXPECT_EQ(temperature(99.0), 109.0);
   EXPECT_EQ(temperature(100.0), 150.0);

@@ -22,8 +22,8 @@ struct CompressibilityRow {
 TEST(GasCompressibility, Solves_the_equation_of_Lee_and_Kesler) {
   // The same equation solved apart from this code, by stepping and halving.
   const CompressibilityRow rows[] = {
-      {1.2, 0.659, 0.2, 0.87232}, {2.0, 5.0, 0.1, 1.00536},    {0.8, 0.2, 0.3, 0.81910},
-      {1.05, 1.2, 0.0, 0.44368},  {1.1, 8.0, 0.25, 0.97471},   {3.5, 10.0, 0.0, 1.18338},
+      {1.2, 0.659, 0.2, 0.87232},  {2.0, 5.0, 0.1, 1.00536},  {0.8, 0.2, 0.3, 0.81910},
+      {1.05, 1.2, 0.0, 0.44368},   {1.1, 8.0, 0.25, 0.97471}, {3.5, 10.0, 0.0, 1.18338},
       {0.65, 0.01, 0.35, 0.98327},
   };
   for (const CompressibilityRow& row : rows) {
@@ -40,7 +40,8 @@ TEST(GasCompressibility, Agrees_with_the_published_tables_of_the_method) {
 }
 
 TEST(GasCompressibility, Is_close_to_air) {
-  // Perry's Chemical Engineers' Handbook, compressibility factors for air; Tc 132.45 K, Pc 37.246 atm.
+  // Perry's Chemical Engineers' Handbook, compressibility factors for air; Tc 132.45 K, Pc 37.246
+  // atm.
   struct AirRow {
     double temperature, bar, expected;
   };
@@ -135,7 +136,7 @@ TEST(VaporPressure, Of_water_needs_the_acentric_factor) {
   struct SteamRow {
     double bar, temperature;
   };
-  const SteamRow rows[] = {{0.1, 318.96}, {1.0, 372.76},  {5.0, 424.98},  {10.0, 453.03},
+  const SteamRow rows[] = {{0.1, 318.96},  {1.0, 372.76},  {5.0, 424.98},  {10.0, 453.03},
                            {20.0, 485.53}, {40.0, 523.50}, {100.0, 584.15}};
   const auto curve = vaporPressureCurve(373.12, 647.1, 217.755, 0.3443);
   const auto plain = vaporPressureCurve(373.12, 647.1, 217.755, std::nullopt);
@@ -233,9 +234,8 @@ TEST(LiquidDensity, Is_held_at_the_critical_temperature) {
 
 TEST(PropertyMethods, Never_answer_anything_but_a_finite_number_from_0_up) {
   const double infinity = std::numeric_limits<double>::infinity();
-  const double arguments[] = {-infinity, -1e308, -1.0,  -1e-308, 0.0,      1e-308,
-                              1e-9,      0.5,    1.0,   300.0,   1e9,      1e308,
-                              infinity,  std::nan("")};
+  const double arguments[] = {-infinity, -1e308, -1.0,  -1e-308, 0.0,   1e-308,   1e-9,
+                              0.5,       1.0,    300.0, 1e9,     1e308, infinity, std::nan("")};
   const auto expectSound = [](double value, const char* method) {
     EXPECT_TRUE(std::isfinite(value) && value >= 0.0) << method << " gave " << value;
   };

@@ -26,7 +26,8 @@ double convertedValue(double value, const char* from, const char* to) {
 }
 
 // One value of a unit in another, from the exact definitions: inch 0.0254 m, pound 0.45359237 kg,
-// gallon 231 in3, g 9.80665 m/s2, IT calorie 4.1868 J and BTU 1055.05585262 J, atmosphere 101325 Pa.
+// gallon 231 in3, g 9.80665 m/s2, IT calorie 4.1868 J and BTU 1055.05585262 J, atmosphere 101325
+// Pa.
 struct Row {
   double value;
   const char* from;
@@ -202,31 +203,51 @@ TEST(UnitTable, Case_and_surrounding_blanks_do_not_matter) {
 // Every text that the library converts from or to, in the pairs in which it writes them.
 TEST(UnitTable, Knows_what_the_library_reads_and_writes) {
   const char* const pairs[][2] = {
-      {"CFH", "M3/H"},       {"LB/H", "KG/H"},
-      {"FEET", "M"},         {"FEET", "MM"},
-      {"INCHES", "MM"},      {"INCHES", "M"},
-      {"SF", "M2"},          {"CF", "M3"},
-      {"HP", "KW"},          {"CPOISE", "MPA-S"},
-      {"DEG F", "DEG C"},    {"DEG F", "DEG K"},
-      {"DEG F", "DEG R"},    {"PSIG", "KPA"},
-      {"PSIA", "PSIG"},      {"PSIA", "KPA"},
-      {"PSI", "ATM"},        {"FPM", "M/MIN"},
-      {"MINUTE", "MINUTES"}, {"BTU/H/SF/DEG F", "KCAL/H/M2/DEG C"},
+      {"CFH", "M3/H"},
+      {"LB/H", "KG/H"},
+      {"FEET", "M"},
+      {"FEET", "MM"},
+      {"INCHES", "MM"},
+      {"INCHES", "M"},
+      {"SF", "M2"},
+      {"CF", "M3"},
+      {"HP", "KW"},
+      {"CPOISE", "MPA-S"},
+      {"DEG F", "DEG C"},
+      {"DEG F", "DEG K"},
+      {"DEG F", "DEG R"},
+      {"PSIG", "KPA"},
+      {"PSIA", "PSIG"},
+      {"PSIA", "KPA"},
+      {"PSI", "ATM"},
+      {"FPM", "M/MIN"},
+      {"MINUTE", "MINUTES"},
+      {"BTU/H/SF/DEG F", "KCAL/H/M2/DEG C"},
       {"BTU/H/DEG F", "CAL/H/DEG C"},
       {"H SF DEG F/BTU", "H M2 DEG C/KCAL"},
-      {"CFM", "M3/H"},       {"GPM", "L/S"},
-      {"PSI", "KPA"},        {"BTU/H", "MMBTU/H"},
-      {"BTU/H", "MEGAW"},    {"LB/H", "TPH"},
-      {"CFH", "CFS"},        {"CFH", "GPM"},
-      {"FPS", "FPH"},        {"GM/CC", "PCF"},
-      {"KG/M3", "PCF"},      {"POISE", "LB/FT/H"},
-      {"POISE", "CPOISE"},   {"CPOISE", "KG/M/H"},
-      {"BTU/H", "HP"},       {"BTU/LB", "CAL/G"},
+      {"CFM", "M3/H"},
+      {"GPM", "L/S"},
+      {"PSI", "KPA"},
+      {"BTU/H", "MMBTU/H"},
+      {"BTU/H", "MEGAW"},
+      {"LB/H", "TPH"},
+      {"CFH", "CFS"},
+      {"CFH", "GPM"},
+      {"FPS", "FPH"},
+      {"GM/CC", "PCF"},
+      {"KG/M3", "PCF"},
+      {"POISE", "LB/FT/H"},
+      {"POISE", "CPOISE"},
+      {"CPOISE", "KG/M/H"},
+      {"BTU/H", "HP"},
+      {"BTU/LB", "CAL/G"},
       {"CAL/G/DEG C", "BTU/LB/DEG F"},
       {"CAL/G/DEG K", "BTU/LB/DEG F"},
       {"CAL/CM/S/DEG K", "BTU/H/FT/DEG F"},
-      {"SF/CF", "1/IN"},     {"GALLONS", "BARRELS"},
-      {"PERCENT", "PERCENT"}, {"LBMOL/H", "KGMOL/H"},
+      {"SF/CF", "1/IN"},
+      {"GALLONS", "BARRELS"},
+      {"PERCENT", "PERCENT"},
+      {"LBMOL/H", "KGMOL/H"},
       {"DYNE/CM", "N/M"},
   };
   const UnitTable units(0);
@@ -254,8 +275,12 @@ TEST(UnitTable, Units_of_different_quantities_do_not_convert) {
   LoggingHost host;
   const HostScope scope(host);
   const UnitTable units(0);
-  const char* const pairs[][2] = {{"PSI", "FEET"},           {"FEET", "1/FT"}, {"MINUTE", "HZ"},
-                                  {"CPOISE", "CST"},         {"LB/H", "CFH"},  {"LB/H", "LBMOL/H"},
+  const char* const pairs[][2] = {{"PSI", "FEET"},
+                                  {"FEET", "1/FT"},
+                                  {"MINUTE", "HZ"},
+                                  {"CPOISE", "CST"},
+                                  {"LB/H", "CFH"},
+                                  {"LB/H", "LBMOL/H"},
                                   {"BTU/H/SF/DEG F", "H SF DEG F/BTU"}};
   for (const auto& [from, to] : pairs) {
     double value = 5.0;
