@@ -35,9 +35,9 @@ std::unique_ptr<CSizeEquip> make(EmbeddedHost& host, const EquipmentClass& equip
 ItemRun::ItemRun(EmbeddedHost& host, const PlantItem& item, const RunForm& form)
     : scope_(host),
       className_(
-          equipmentClassName(item.className, item.category.value_or(""), itemModelOf(host, item))) {
-  const EquipmentClass* equipment = findEquipmentClass(className_);
-  if (equipment == nullptr) {
+          equipmentClassName(item.className, item.category.value_or(""), itemModelOf(host, item))),
+      equipment_(findEquipmentClass(className_)) {
+  if (equipment_ == nullptr) {
     throw InputError("items/" + item.name + ": the equipment class " + std::string(className_) +
                      " is not available yet");
   }
