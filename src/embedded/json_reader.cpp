@@ -29,11 +29,10 @@ std::string reasonOf(std::string_view what) {
 }
 
 std::string placeIn(std::string_view text, std::size_t position) {
-  const std::string_view before = text.substr(0, std::min(position, text.size()));
-  const std::string_view read = before.substr(0, before.empty() ? 0 : before.size() - 1);
+  const std::string_view read = text.substr(0, position > 0 ? position - 1 : 0);
   const auto line = 1 + std::count(read.begin(), read.end(), '\n');
   const std::size_t lineStart = read.rfind('\n') + 1;  // 0 when there is none
-  const std::size_t column = before.size() - lineStart;
+  const std::size_t column = 1 + read.size() - lineStart;
   return "line " + std::to_string(line) + ", column " + std::to_string(column);
 }
 
@@ -103,6 +102,10 @@ class DocumentListener : public JsonListener {
 }  // namespace
 
 void parseJson(std::string_view text, JsonListener& listener) {
+  // The parser takes a null character for the end of the text, whatever follows.
+  if (const std::size_t null = text.find('\0'); null != std::string_view::npos) {
+    throw InputError(placeIn(text, null + 1), "not JSON: null character");
+  }
   Events events(text, listener);
   ordered_json::sax_parse(text.begin(), text.end(), &events);
 }
@@ -143,10 +146,10 @@ void JsonBuilder::open(bool isObject) {
 
 void JsonBuilder::key(std::string name) {
   Level& level = levels_[open_ - 1];
+  if (name.empty() && !anyNames_) throw InputError(place(false), "empty name");
   const bool taken = isTaken(level, name);
   level.members.emplace_back(std::move(name), nullptr);
   if (taken) throw InputError(path(), "duplicate key");
-  if (level.members.back().first.empty() && !anyNames_) throw InputError(path(), "empty name");
 }
 
 bool JsonBuilder::isTaken(Level& level, const std::string& name) const {
@@ -201,9 +204,10 @@ bool JsonBuilder::add(ordered_json value) {
   return false;
 }
 
-std::string JsonBuilder::path() const {
+// Of the value under way, or of the array or object that it belongs to.
+std::string JsonBuilder::place(bool ofValue) const {
   std::string result = path_;
-  for (std::size_t i = 0; i < open_; ++i) {
+  for (std::size_t i = 0; i + (ofValue ? 0 : 1) < open_; ++i) {
     const Level& level = levels_[i];
     if (level.isObject) {
       if (!level.members.empty()) result = joinPath(result, level.members.back().first);

@@ -57,7 +57,7 @@ class JsonBuilder {
 
   /// Whether an array or object is under way.
   [[nodiscard]] bool isOpen() const { return open_ > 0; }
-  [[nodiscard]] std::string path() const;
+  [[nodiscard]] std::string path() const { return place(true); }
   nlohmann::ordered_json take() { return std::move(done_); }
 
  private:
@@ -68,6 +68,7 @@ class JsonBuilder {
   };
 
   bool add(nlohmann::ordered_json value);
+  [[nodiscard]] std::string place(bool ofValue) const;
   [[nodiscard]] bool isTaken(Level& level, const std::string& name) const;
 
   std::string path_;

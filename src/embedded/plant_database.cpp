@@ -183,12 +183,12 @@ void fill(SqliteFile& file, Plant& plant) {
   file.run(std::string(kSizedTable).c_str());
   SqliteStatement insert(file, "INSERT INTO entries(section, name, body) VALUES(?, ?, ?)");
   std::string body;
-  writeEntries(plant,
-               [&](std::string_view section, std::string_view name, const ordered_json& value) {
-                 body.clear();
-                 printJson(body, value);
-                 insert.with(section).with(name).with(body).run();
-               });
+  PlantWriter(plant).write(
+      [&](std::string_view section, std::string_view name, const ordered_json& value) {
+        body.clear();
+        printJson(body, value);
+        insert.with(section).with(name).with(body).run();
+      });
   transaction.commit();
 }
 
@@ -278,7 +278,7 @@ void PlantDatabase::store(const PlantItem& item, std::span<StoredObject* const> 
   MemoryStore& store = plant_->store;
   if (StoredDatabase* records = store.findDatabase(kSizeRecords)) {
     if (const StoredObject* record = store.find(*records, item.name)) {
-      takeDown(databaseSection(kSizeRecords), *record, objectToJson(*plant_, *record));
+      takeDown(databaseSection(kSizeRecords), *record, PlantWriter(*plant_).object(*record));
     } else {
       rows_.push_back({databaseSection(kSizeRecords), item.name, {}});
     }
@@ -299,7 +299,7 @@ void PlantDatabase::takeDownItem(const PlantItem& item) {
   Row& row = rows_.emplace_back();
   row.section = "items";
   row.name = item.name;
-  printJson(row.body, itemToJson(*plant_, item));
+  printJson(row.body, PlantWriter(*plant_).item(item));
 }
 
 void PlantDatabase::takeDownObject(const PlantItem& item, const StoredObject& object) {
@@ -309,17 +309,17 @@ void PlantDatabase::takeDownObject(const PlantItem& item, const StoredObject& ob
       return takeDownNamed(item, plant_->store.text(object.database->name), object);
     case kSimulatorBlock:
     case kPremappedItem:
-      return takeDown("blocks", object, blockToJson(*plant_, object));
+      return takeDown("blocks", object, PlantWriter(*plant_).block(object));
     case kProcessStream:
     case kAddedUtilityStream:
     case kAddedPremapStream:
     case kUserAddedStream:
-      return takeDown("streams", object, streamToJson(*plant_, object));
+      return takeDown("streams", object, PlantWriter(*plant_).stream(object));
     case kDesignCriteria:
-      return takeDown("criteria", object, objectToJson(*plant_, object));
+      return takeDown("criteria", object, PlantWriter(*plant_).object(object));
     case kUtilityStreamEntry:
       // Bundled utilities are not the plant's own: one of them in the file would replace them all.
-      if (plant_->hasUtilities) takeDown("utilities", object, objectToJson(*plant_, object));
+      if (plant_->hasUtilities) takeDown("utilities", object, PlantWriter(*plant_).object(object));
       return;
     case kProjectItem: {
       const int number = equalsIgnoringCase(name, item.name) ? -1 : plant_->findItem(name);
@@ -348,7 +348,7 @@ void PlantDatabase::takeDownNamed(const PlantItem& item, std::string_view databa
   if (now == nullptr) {
     rows_.push_back({databaseSection(database), name, {}});
   } else {
-    takeDown(databaseSection(database), *now, objectToJson(*plant_, *now));
+    takeDown(databaseSection(database), *now, PlantWriter(*plant_).object(*now));
   }
 }
 

@@ -115,7 +115,7 @@ class FilePrinter {
     flush();
   }
 
-  void begin() { line_ = "{"; }
+  void begin() { line_.assign(1, '{'); }
   void end() {
     descend({});
     line_ += "\n}\n";
@@ -210,9 +210,10 @@ std::unique_ptr<Plant> readPlant(std::istream& input, std::string_view name,
 void writePlant(Plant& plant, std::ostream& out) {
   FilePrinter printer(out);
   printer.begin();
-  writeEntries(plant,
-               [&printer](std::string_view section, std::string_view name,
-                          const ordered_json& value) { printer.take(section, name, value); });
+  PlantWriter(plant).write(
+      [&printer](std::string_view section, std::string_view name, const ordered_json& value) {
+        printer.take(section, name, value);
+      });
   printer.end();
 }
 

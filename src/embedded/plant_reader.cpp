@@ -120,7 +120,7 @@ std::span<const PlantReader::SectionRow> PlantReader::sectionRows() {
 
 void PlantReader::take(std::string_view section, std::string_view name, const Json& value) {
   section_ = section;
-  if (name.empty()) throw InputError(path(name), "empty name");
+  if (name.empty()) throw InputError(section_, "empty name");
   if (!isNew(section, name)) throw InputError(path(name), "duplicate key");
   if (section.empty()) return takeMember(name, value);
   if (section.starts_with(kDatabasePrefix)) {
@@ -350,8 +350,6 @@ void PlantReader::addComponent(const PlantItem& item, const Json& value, const s
                      "the item of this name keeps these slots as its \"component\"");
   }
   StoredObject& record = store.add(components, item.name);
-  // The spelling that came first, which is how the store names its records.
-  plant_->items.back().name = store.text(record.name);
   store.set(record, kObjectName, CvdSlot::ofText(item.name));
   if (CvdSlot type = typeValue(item); type.IsValid()) store.set(record, kType, std::move(type));
   addPorts(record, kInletPorts, value, path);

@@ -337,6 +337,19 @@ TEST(PlantFile, Names_compare_without_regard_to_case_and_keep_their_first_spelli
   EXPECT_EQ(slotNamesOf(*plant, second), Names{"Temperature"});
 }
 
+TEST(PlantFile, An_item_keeps_its_own_spelling) {
+  const auto plant = plantOf(R"({
+      "databases": {"SIZE": {"p-1": {"OBJECT NAME": 1}}}, "criteria": {"P-1": {"TYPE": 1}},
+      "streams": {"p-1": {}}, "blocks": {"b": {"slots": {"b": 1}}},
+      "items": {"P-1": {"block": "B", "component": {"size": 5}}}})");
+  EXPECT_EQ(plant->items[0].name, "P-1");
+  EXPECT_EQ(slotText(*plant, "VPECOMP", "P-1", "object name"), "P-1");
+  const std::string text = written(*plant);
+  const auto again = plantOf(text);
+  EXPECT_EQ(again->items[0].name, "P-1");
+  EXPECT_EQ(written(*again), text);
+}
+
 TEST(PlantFile, Sections_may_come_in_any_order) {
   const auto first = plantOf(R"({
       "streams": {"A": {"class": 3305}}, "blocks": {"B": {"inherits": "C"}, "C": {}},
@@ -351,13 +364,13 @@ TEST(PlantFile, Sections_may_come_in_any_order) {
 }
 
 TEST(PlantFile, Order_of_names_is_kept) {
-  const auto plant = plantOf(R"({"items": {"Z": {"component": {"z": 1, "y": 2, "a": 3, "m": 4}},
+  const auto plant = plantOf(R"({"items": {"Z": {"component": {"z1": 1, "y": 2, "a1": 3, "m": 4}},
                                            "A": {}, "M": {}}})");
   EXPECT_EQ(plant->items[0].name, "Z");
   EXPECT_EQ(plant->items[1].name, "A");
   EXPECT_EQ(plant->items[2].name, "M");
   EXPECT_EQ(slotNamesOf(*plant, *plant->componentOf(plant->items[0])),
-            (Names{"object name", "z", "y", "a", "m"}));
+            (Names{"object name", "z1", "y", "a1", "m"}));
 }
 
 TEST(PlantFile, Many_slots_of_one_object_keep_order_and_values) {
@@ -404,7 +417,7 @@ TEST(PlantWriting, The_text_is_laid_out_for_people) {
         "project": {"list": ["x", "y"], "number": 1e300}}},
       "criteria": {"*": {"P": [29.7, "PSI"]}},
       "design rules": {"pressure": [{"value": -1}, {"from": 0, "add": 2}]},
-      "databases": {"SIZE": {"P-1": {"a": 1, "b": 2}}, "MINE": {}}})");
+      "databases": {"SIZE": {"P-1": {"a": 1, "c": 2}}, "MINE": {}}})");
   EXPECT_EQ(written(*plant), R"({
   "sizewright": 1,
   "simulator": 1,
@@ -445,7 +458,7 @@ TEST(PlantWriting, The_text_is_laid_out_for_people) {
     "SIZE": {
       "P-1": {
         "a": 1,
-        "b": 2
+        "c": 2
       }
     },
     "MINE": {}

@@ -1,8 +1,10 @@
 #pragma once
 
 #include <stdlib.h>
+#include <unistd.h>
 
 #include <array>
+#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <memory>
@@ -62,12 +64,29 @@ inline std::string slotText(Plant& plant, std::string_view database, std::string
   return slotText(plant, plant.store.database(database), object, slot);
 }
 
+/// Makes file permissions count for the super user too, for the length of a block.
+class AsOrdinaryUser {
+ public:
+  AsOrdinaryUser() {
+    if (isRoot_ && ::seteuid(65534) != 0) std::abort();
+  }
+  ~AsOrdinaryUser() {
+    if (isRoot_ && ::seteuid(0) != 0) std::abort();
+  }
+  AsOrdinaryUser(const AsOrdinaryUser&) = delete;
+  AsOrdinaryUser& operator=(const AsOrdinaryUser&) = delete;
+
+ private:
+  bool isRoot_ = ::geteuid() == 0;
+};
+
 /// A folder of its own for one test, removed at its end.
 class TestFolder {
  public:
   TestFolder() {
     std::string name = (std::filesystem::temp_directory_path() / "sizewright-XXXXXX").string();
     path_ = ::mkdtemp(name.data());
+    std::filesystem::permissions(path_, static_cast<std::filesystem::perms>(0755));
   }
   ~TestFolder() {
     std::error_code unknown;

@@ -1,0 +1,5 @@
+execute_process(COMMAND ${PROGRAM} OUTPUT_VARIABLE output RESULT_VARIABLE result)
+file(READ ${EXPECTED} expected)
+if(NOT result EQUAL 0 OR NOT output STREQUAL expected)
+  message(FATAL_ERROR "exit ${result}, printed:\n${output}\nexpected:\n${expected}")
+endif()
