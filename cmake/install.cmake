@@ -2,7 +2,7 @@
 include(CMakePackageConfigHelpers)
 
 install(TARGETS sizing EXPORT sizewright-targets ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR})
-foreach(folder host frame rotating vessels separation)
+foreach(folder host frame rotating vessels fired separation)
   install(DIRECTORY src/${folder} DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/sizewright
           FILES_MATCHING PATTERN "*.h")
 endforeach()

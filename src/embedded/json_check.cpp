@@ -69,7 +69,7 @@ void addMembers(const ordered_json& document, JsonRule& rule) {
   const auto* properties = findConstraint<PropertiesConstraint>(*rule.compiled);
   if (properties == nullptr) return;
   properties->applyToProperties([&](const auto& name, const Subschema* schema) {
-    const std::string key(name.c_str());
+    const std::string key(name.begin(), name.end());
     rule.members.emplace(key, makeRule(document, rule.source->at("properties").at(key), *schema));
     return true;
   });

@@ -22,7 +22,7 @@ void printNumber(std::string& out, double number) {
     return;
   }
   std::array<char, 32> digits{};
-  const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), number).ptr;
+  char* const end = std::to_chars(digits.data(), digits.data() + digits.size(), number).ptr;
   out.append(digits.data(), end);
 }
 

@@ -83,7 +83,7 @@ ordered_json parseBody(SqliteFile& file, std::string_view section, std::string_v
   try {
     return parseJson(body, section.empty() && isExtra(name));
   } catch (const InputError& fault) {
-    file.refuse("damaged: " + joinPath(section, name) + ": " + fault.what());
+    file.refuse("damaged: " + joinPath(shortened(section), name) + ": " + fault.what());
   }
 }
 

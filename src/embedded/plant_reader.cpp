@@ -91,7 +91,7 @@ PlantReader::PlantReader(std::span<const std::string_view> knownClasses)
 PlantReader::~PlantReader() = default;
 
 std::span<const PlantReader::MemberRow> PlantReader::memberRows() {
-  static constexpr MemberRow kRows[] = {
+  static constexpr auto kRows = std::to_array<MemberRow>({
       {"name", &PlantReader::takeName},
       {"units", &PlantReader::takeUnits},
       {"simulator", &PlantReader::takeSimulator},
@@ -99,12 +99,12 @@ std::span<const PlantReader::MemberRow> PlantReader::memberRows() {
       {"install", &PlantReader::takeInstall},
       {"record changes", &PlantReader::takeRecordChanges},
       {"defaults", &PlantReader::takeDefaults},
-  };
+  });
   return kRows;
 }
 
 std::span<const PlantReader::SectionRow> PlantReader::sectionRows() {
-  static constexpr SectionRow kRows[] = {
+  static constexpr auto kRows = std::to_array<SectionRow>({
       {"streams", &PlantReader::takeStream, [](const Rules& r) { return r.stream; }},
       {"blocks", &PlantReader::takeBlock, [](const Rules& r) { return r.block; }},
       {"items", &PlantReader::takeItem, [](const Rules& r) { return r.item; }},
@@ -114,12 +114,12 @@ std::span<const PlantReader::SectionRow> PlantReader::sectionRows() {
       {"property database", &PlantReader::takeOverlay, [](const Rules& r) { return r.overlay; }},
       {"charts", &PlantReader::takeCharts, [](const Rules& r) { return r.charts; }},
       {"fluids", &PlantReader::takeFluid, [](const Rules& r) { return r.fluid; }},
-  };
+  });
   return kRows;
 }
 
 void PlantReader::take(std::string_view section, std::string_view name, const Json& value) {
-  section_ = section;
+  section_ = shortened(section);
   if (name.empty()) throw InputError(section_, "empty name");
   if (!isNew(section, name)) throw InputError(path(name), "duplicate key");
   if (section.empty()) return takeMember(name, value);
@@ -132,7 +132,7 @@ void PlantReader::take(std::string_view section, std::string_view name, const Js
     schema_.check(*row.rule(*rules_), value, path(name));
     return (this->*row.take)(name, value);
   }
-  throw InputError(section, "unknown key");
+  throw InputError(section_, "unknown key");
 }
 
 std::string PlantReader::path(std::string_view name) const {
@@ -396,7 +396,7 @@ void PlantReader::addPorts(StoredObject& record, const PortDirection& direction,
   }
 }
 
-void PlantReader::inherit(StoredObject& object, const Json& target, std::string path) {
+void PlantReader::inherit(StoredObject& object, const Json& target, const std::string& path) {
   openParents_.push_back({&object, target.get<std::string>(), joinPath(path, kInherits)});
 }
 

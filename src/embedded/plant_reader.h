@@ -67,7 +67,7 @@ class PlantReader {
   void checkName(std::string_view path, std::string_view name, std::size_t longest) const;
   bool isNew(std::string_view section, std::string_view name);
   void setSlots(StoredObject& object, const Json& slots);
-  void inherit(StoredObject& object, const Json& target, std::string path);
+  void inherit(StoredObject& object, const Json& target, const std::string& path);
   void addComponent(const PlantItem& item, const Json& value, const std::string& path);
   void addPorts(StoredObject& record, const PortDirection& direction, const Json& item,
                 const std::string& path);
@@ -93,7 +93,7 @@ class PlantReader {
   JsonSchema schema_;
   std::unique_ptr<Rules> rules_;
   std::unique_ptr<Plant> plant_;
-  std::string section_;  // of the entry at hand
+  std::string section_;  // of the entry at hand, for messages
   bool hasItems_ = false;
   NamePool names_;
   std::unordered_set<std::uint64_t> seen_;  // entries, by section and name

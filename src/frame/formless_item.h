@@ -32,6 +32,16 @@ class FormlessItem : public SizingItem<Data> {
     this->findStreams(this->exits(), kExit, "Exit stream", exitTag);
     return this->hasBothStreams();
   }
+
+  /// Progress of a design report around the writing of the results.
+  template <class Write>
+  static void report(Write write) {
+    status_write(75, 3, "Preparing the design report. Please Wait ...");
+    status_write(79, 3, "Writing preliminary information.");
+    status_write(80, 3, "Writing design parameters");
+    write();
+    status_write(95, 3, "Completed sizing of VPE component");
+  }
 };
 
 }  // namespace sizewright

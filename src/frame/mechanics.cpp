@@ -49,6 +49,10 @@ void CSizeEquip::readSource(double& field, From from, std::string_view slot, con
   if (found) field = value;
 }
 
+void CSizeEquip::readCount(double& count, From from, std::string_view slot) const {
+  if (!(count > 1.0)) count = std::max(count, readOr(source(from), slot, nullptr, 0.0));
+}
+
 double CSizeEquip::readOr(CvdValueObject* object, std::string_view slot, const char* units,
                           double missing) const {
   double value = 0.0;
@@ -94,6 +98,13 @@ void CSizeEquip::findStreams(void*& list, Direction direction, std::string_view 
   if (list != empty) list2_delete(empty);  // a stream named in a slot came in a new list
 }
 
+void CSizeEquip::findExits(void*& list, std::initializer_list<std::string_view> tags) const {
+  ensureList(list);
+  if (list2_length(list) != 0) return;
+  for (const std::string_view tag : tags) GetStreams(kExit, "", tag, list);
+  findStreams(list, kNoDirection, "Exit stream", "");
+}
+
 void CSizeEquip::rewritePorts(Direction direction, void* list, std::string_view tag,
                               std::string_view prefix) {
   if (list == nullptr) return;
@@ -101,6 +112,20 @@ void CSizeEquip::rewritePorts(Direction direction, void* list, std::string_view 
   lib_func_add_new_ports(vpeCompFile, componentName,
                          direction == kInlet ? "__STREAMS__IN" : "__STREAMS__EX", list, tag, prefix,
                          direction);
+}
+
+void CSizeEquip::rewriteExitPorts(void* list, std::span<const PortByFlow> rows) {
+  if (list == nullptr) return;
+  lib_fun_delete_old_ports(vpeCompFile, componentName, kExit);
+  for (int i = 0; i < list2_length(list); ++i) {
+    const std::string name(withoutTrailingBlanks(list2_get_item(list, i, nullptr)));
+    if (isNoStream(name)) continue;
+    std::optional<CvdStream> stream = openStream(name);
+    const auto carried = std::find_if(rows.begin(), rows.end(), [&](const PortByFlow& row) {
+      return stream && readOr(&*stream, row.flow, "LB/H", 0.0) > 0.0;
+    });
+    lib_func_append_ports(name, carried != rows.end() ? carried->tag : "OUTLET", "_ex_", kExit);
+  }
 }
 
 void CSizeEquip::showStream(std::string_view label, void* list, const char* dialog, CStrList& names,

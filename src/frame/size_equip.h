@@ -4,6 +4,7 @@
 #include <initializer_list>
 #include <memory>
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -325,6 +326,8 @@ class CSizeEquip {
   /// is taken as it stands.
   void readSource(double& field, From from, std::string_view slot, const char* units,
                   Lookup lookup = Lookup::inherited) const;
+  /// Reads a count while it is not above 1; a slot's number counts when it is greater.
+  void readCount(double& count, From from, std::string_view slot) const;
   /// The slot's number in `units` (null: as it stands), or `missing` when it is absent or 0.
   double readOr(CvdValueObject* object, std::string_view slot, const char* units,
                 double missing) const;
@@ -349,8 +352,13 @@ class CSizeEquip {
   /// Makes the list if there is none and, when it is empty, fills it with the item's streams.
   void findStreams(void*& list, Direction direction, std::string_view slot,
                    std::string_view tag) const;
+  /// The same for exits that may be connected under several tags: all of them, in the order of the
+  /// tags, or else those that the slot "Exit stream" names.
+  void findExits(void*& list, std::initializer_list<std::string_view> tags) const;
   /// Removes a direction's ports and writes new ones for the list; nothing for a null list.
   void rewritePorts(Direction direction, void* list, std::string_view tag, std::string_view prefix);
+  /// The same for exits, each under the tag of the first row whose flow it carries, or "OUTLET".
+  void rewriteExitPorts(void* list, std::span<const PortByFlow> rows);
 
   /// Adds the first stream of a list to a form. Where there are several, that of the greatest mass
   /// flow takes the first place, and the user is told by `dialog`, a format for its name.

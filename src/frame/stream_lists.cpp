@@ -38,6 +38,10 @@ int replaceList(void*& list, void* given) {
   return 1;
 }
 
+int replaceListUnlessEmpty(void*& list, void* given) {
+  return list2_length(given) > 0 ? replaceList(list, given) : 0;
+}
+
 int copyList(void* list, void* given) {
   return list != nullptr && given != nullptr ? list2_copy_s(list, given) : 0;
 }

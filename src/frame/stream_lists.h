@@ -41,6 +41,8 @@ void ensureList(void*& list);
 /// Replaces the list by a copy of the one given. Returns 1, or 0 with nothing changed when that is
 /// no list.
 int replaceList(void*& list, void* given);
+/// The same, but an empty list is refused, too.
+int replaceListUnlessEmpty(void*& list, void* given);
 /// Copies the list into the one given, when both exist. Returns 1 when copied.
 int copyList(void* list, void* given);
 

@@ -89,4 +89,10 @@ struct ResultRow {
   const char* metric = nullptr;
 };
 
+/// The tag that an exit stream is connected under when it carries a flow, in order of priority.
+struct PortByFlow {
+  const char* flow;  // slot of a mass flow
+  const char* tag;
+};
+
 }  // namespace sizewright

@@ -27,12 +27,20 @@ double solidFlowByDifference(const CSizeEquip& item, CvdStream& stream, double n
   return difference > negligible ? difference : 0.0;
 }
 
+double solidFlowByFraction(const CSizeEquip& item, CvdStream& stream) {
+  double fraction = 0.0;
+  item.lib_get_value_n_api(&stream, "SOLID FRACTION", &fraction, "inherit");
+  const double total = flowOf(item, stream, "TOTAL MASS FLOW");
+  return total > 0.0 ? fraction * total : 0.0;
+}
+
 double solidFlowByLiquorRatio(const CSizeEquip& item, CvdStream& stream) {
   double ratio = 0.0;
   double liquid = 0.0;
+  UnitText ratioUnits;  // the ratio counts as it stands
   UnitText units;
   item.lib_get_number_and_units_api(&stream, "SUSPENDED SOLID TO LIQUOR RATIO", &ratio,
-                                    units.data());
+                                    ratioUnits.data());
   item.lib_get_number_and_units_api(&stream, "LIQUID MASS FLOW", &liquid, units.data());
   if (!(ratio > 0.0) || !(liquid > 0.0)) return 0.0;
   const double flow = ratio * liquid;

@@ -18,6 +18,8 @@ bool readSolidFlow(const CSizeEquip& item, CvdStream& stream, double& flow);
 /// "TOTAL MASS FLOW" less "LIQUID MASS FLOW" less "VAPOR MASS FLOW"; 0 when that is not above
 /// `negligible`.
 double solidFlowByDifference(const CSizeEquip& item, CvdStream& stream, double negligible = 0.0);
+/// "SOLID FRACTION" times "TOTAL MASS FLOW"; 0 when the total is not positive.
+double solidFlowByFraction(const CSizeEquip& item, CvdStream& stream);
 /// "SUSPENDED SOLID TO LIQUOR RATIO" times "LIQUID MASS FLOW"; 0 when either is not positive.
 double solidFlowByLiquorRatio(const CSizeEquip& item, CvdStream& stream);
 /// The stream's "SOLID MASS DENSITY", or that of common solids.

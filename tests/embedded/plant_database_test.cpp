@@ -470,6 +470,8 @@ TEST_F(PlantDatabaseTest, A_fault_in_an_entry_is_told_with_its_place) {
       {"UPDATE entries SET body = '{\"component\": 5}' WHERE name = 'P-1'",
        "items/P-1/component: expected an object"},
       {"UPDATE entries SET section = 'item' WHERE name = 'P-1'", "item: unknown key"},
+      {"UPDATE entries SET section = 'i' || char(10) || 's' WHERE name = 'P-1'",
+       "i?s: unknown key"},
       {"UPDATE entries SET name = '' WHERE name = 'P-1'", "items: empty name"},
       {"UPDATE entries SET name = 'p-1' WHERE name = 'P-1'", ""},
       {"DELETE FROM entries WHERE section = '' AND name = 'items'", "missing key \"items\""},

@@ -6,8 +6,10 @@
 
 #include "embedded/plant_texts.h"
 #include "sizewright/embedded/embedded_files.h"
+#include "sizewright/embedded/item_run.h"
 #include "sizewright/embedded/json_check.h"
 #include "sizewright/embedded/json_reader.h"
+#include "sizewright/embedded/registry.h"
 
 namespace sizewright {
 namespace {
@@ -510,12 +512,12 @@ TEST(PlantWriting, Numbers_read_back_as_the_same_double) {
   const auto plant = plantOf(R"({"items": {"P": {}}})");
   StoredObject& record = *plant->componentOf(plant->items[0]);
   for (std::size_t i = 0; i < std::size(numbers); ++i) {
-    plant->store.set(record, "n" + std::to_string(i), CvdSlot::ofNumber(numbers[i], "U"));
+    plant->store.set(record, numbered("n", i), CvdSlot::ofNumber(numbers[i], "U"));
   }
   const auto again = plantOf(written(*plant));
   const StoredObject& read = *again->componentOf(again->items[0]);
   for (std::size_t i = 0; i < std::size(numbers); ++i) {
-    const double number = again->store.get(read, "n" + std::to_string(i)).Number();
+    const double number = again->store.get(read, numbered("n", i)).Number();
     EXPECT_EQ(number, numbers[i]);
     EXPECT_EQ(std::signbit(number), std::signbit(numbers[i])) << numbers[i];
   }
@@ -671,6 +673,36 @@ TEST(PlantAfterRun, Streams_and_objects_of_the_run_come_back) {
   EXPECT_EQ(namesOf(*again, again->store.streams()), (Names{"S1", "S2", "S3", "STEAM"}));
   EXPECT_TRUE(again->store.databaseExists(MemoryStore::kProject, "NEW"));
   EXPECT_EQ(slotText(*again, "SIZE", "P", "HEAD"), "120 FEET");
+}
+
+TEST(PlantAfterRun, A_sized_pump_comes_back) {
+  const auto plant = readPlant(R"({"simulator": 1,
+      "streams": {
+        "S1": {"display": "Feed", "slots": {"TEMPERATURE": [77, "DEG F"], "PRESSURE": [20, "PSI"],
+          "LIQUID MASS FLOW": [22000, "LB/H"], "LIQUID DENSITY": [54, "PCF"]}},
+        "S2": {"slots": {"TEMPERATURE": [77, "DEG F"], "PRESSURE": [90, "PSI"],
+          "LIQUID MASS FLOW": [22000, "LB/H"], "LIQUID DENSITY": [54, "PCF"]}}},
+      "blocks": {"B-P101": {"slots": {"ITEM MODEL": "PUMP"}}},
+      "items": {"P-101": {"category": "DCP", "item": "CENTRIF", "block": "B-P101",
+        "inlets": {"INLET": ["S1"]}, "exits": {"OUTLET": ["S2"]},
+        "component": {"CpPumpEfficiencyPercent": 70}}}})",
+                               "plant.json", equipmentClassNames());
+  {
+    EmbeddedHost host(*plant);
+    ItemRun run(host, plant->items[0]);
+    ASSERT_TRUE(run.size());
+  }
+  const std::string text = written(*plant);
+  const auto again = readPlant(text, "plant.json", equipmentClassNames());
+  EXPECT_EQ(written(*again), text);
+  const StoredObject& before = *plant->componentOf(plant->items[0]);
+  const StoredObject& after = *again->componentOf(again->items[0]);
+  EXPECT_EQ(slotNamesOf(*again, after), slotNamesOf(*plant, before));
+  EXPECT_GT(again->store.find(again->store.database("SIZE"), "P-101")->slotNames.size(), 5U);
+  for (const std::string& slot : slotNamesOf(*plant, before)) {
+    EXPECT_EQ(again->store.get(after, slot), plant->store.get(before, slot)) << slot;
+  }
+  EXPECT_FALSE(contains(text, "equipment information"));
 }
 
 // --- The schemas --------------------------------------------------------------------------------

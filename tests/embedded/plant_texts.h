@@ -29,6 +29,11 @@ inline std::string written(Plant& plant) {
   return out.str();
 }
 
+/// "name7"
+inline std::string numbered(std::string_view name, std::size_t number) {
+  return std::string(name).append(std::to_string(number));
+}
+
 /// What is said of an input, without its name; empty when nothing is wrong with it.
 template <class Action>
 std::string faultOf(const std::string& name, Action&& action) {
