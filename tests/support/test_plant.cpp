@@ -106,4 +106,10 @@ bool holds(const CStrList& list, std::string_view entry) {
   return false;
 }
 
+bool holdsLines(const CStrList& list, std::string_view text) {
+  std::string all = "\n";
+  for (int i = 0; i < list.GetLength(); ++i) all.append(list.GetTextAt(i)).append("\n");
+  return all.find("\n" + std::string(text) + "\n") != std::string::npos;
+}
+
 }  // namespace sizewright

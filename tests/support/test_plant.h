@@ -66,5 +66,7 @@ std::string formValue(CSizeEquip& object, std::string_view label);
 int setForm(CSizeEquip& object, const std::vector<std::pair<std::string, std::string>>& rows);
 /// The list has an entry with exactly this text.
 bool holds(const CStrList& list, std::string_view entry);
+/// The list has the lines of a text as neighbouring entries.
+bool holdsLines(const CStrList& list, std::string_view text);
 
 }  // namespace sizewright
