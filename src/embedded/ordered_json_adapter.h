@@ -128,7 +128,6 @@ class OrderedJsonAdapter
                                               OrderedJsonMember, OrderedJsonObject,
                                               OrderedJsonValue> {
  public:
-  OrderedJsonAdapter() = default;
   explicit OrderedJsonAdapter(const nlohmann::ordered_json& json)
       : BasicAdapter(OrderedJsonValue(&json)) {}
 };
