@@ -1,11 +1,6 @@
 #include "sizewright/embedded/plant_database.h"
 
-#include <fcntl.h>
-#include <unistd.h>
-
 #include <array>
-#include <cerrno>
-#include <cstring>
 #include <fstream>
 #include <new>
 #include <nlohmann/json.hpp>
@@ -19,6 +14,7 @@
 #include "sizewright/embedded/plant_reader.h"
 #include "sizewright/embedded/plant_writer.h"
 #include "sizewright/embedded/sqlite_file.h"
+#include "sizewright/embedded/temporary_file.h"
 #include "sizewright/host/text.h"
 
 namespace sizewright {
@@ -120,62 +116,6 @@ std::unique_ptr<Plant> readWhole(SqliteFile& file, std::span<const std::string_v
 }
 
 // --- Making -------------------------------------------------------------------------------------
-
-/// A file that goes away at the end of the block unless it was kept.
-class TemporaryFile {
- public:
-  // Beside the target, so that it can take its place in one step.
-  explicit TemporaryFile(const std::filesystem::path& target) : target_(target) {
-    for (int number = 0;; ++number) {
-      path_ = target.string() + ".new-" + std::to_string(::getpid()) + "-" + std::to_string(number);
-      const int made = ::open(path_.c_str(), O_CREAT | O_EXCL | O_WRONLY | O_CLOEXEC, 0666);
-      if (made >= 0) {
-        ::close(made);
-        return;
-      }
-      if (errno != EEXIST) fail(errno);
-    }
-  }
-  ~TemporaryFile() {
-    if (isKept_) return;
-    for (const char* ending : {"", "-wal", "-shm", "-journal"}) ::unlink((path_ + ending).c_str());
-  }
-  TemporaryFile(const TemporaryFile&) = delete;
-  TemporaryFile& operator=(const TemporaryFile&) = delete;
-
-  [[nodiscard]] const std::string& path() const { return path_; }
-
-  // Puts the file in the target's place, durably.
-  void keep() {
-    if (const int fault = makeDurable(path_); fault != 0) fail(fault);
-    // What is left of an earlier file of this name would be taken for part of this one.
-    for (const char* ending : {"-wal", "-shm", "-journal"}) {
-      ::unlink((target_.string() + ending).c_str());
-    }
-    if (::rename(path_.c_str(), target_.c_str()) != 0) fail(errno);
-    isKept_ = true;
-    // The new name; where a directory cannot be synchronised, the file system sees to it.
-    std::error_code unknown;
-    makeDurable(std::filesystem::absolute(target_, unknown).parent_path());
-  }
-
- private:
-  // 0, or the fault's number.
-  static int makeDurable(const std::filesystem::path& path) {
-    const int opened = ::open(path.c_str(), O_RDONLY | O_CLOEXEC);
-    if (opened < 0) return errno;
-    const int fault = ::fsync(opened) == 0 ? 0 : errno;
-    ::close(opened);
-    return fault;
-  }
-  [[noreturn]] void fail(int fault) const {
-    throw InputError(target_.string(), std::string("cannot be written: ") + std::strerror(fault));
-  }
-
-  std::filesystem::path target_;
-  std::string path_;
-  bool isKept_ = false;
-};
 
 void fill(SqliteFile& file, Plant& plant) {
   SqliteTransaction transaction(file, "BEGIN IMMEDIATE");

@@ -1,0 +1,5 @@
+#include "sizewright/app/program.h"
+
+int main(int argc, char** argv) {
+  return sizewright::runProgram(argc, argv);
+}
