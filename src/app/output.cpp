@@ -45,6 +45,12 @@ void Output::check() {
                    std::string("cannot be written: ") + std::strerror(errno != 0 ? errno : EIO));
 }
 
+void Output::line(std::string_view text) {
+  errno = 0;
+  *stream_ << text << '\n';
+  check();
+}
+
 void Output::finish() {
   errno = 0;
   stream_->flush();

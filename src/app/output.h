@@ -21,8 +21,8 @@ class Output {
   Output& operator=(const Output&) = delete;
 
   std::ostream& stream() { return *stream_; }
-  /// A line of text.
-  void line(std::string_view text) { *stream_ << text << '\n'; }
+  /// Writes a line of text. Throws InputError when it could not be written.
+  void line(std::string_view text);
   /// Puts the file in its place. Throws InputError when something could not be written.
   void finish();
 
