@@ -4,6 +4,7 @@
 #include <fmt/ostream.h>
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <nlohmann/json.hpp>
 
@@ -33,7 +34,7 @@ PublishedFigures::Figures figuresOf(const ordered_json& json, const std::string&
 }
 
 bool isPort(std::string_view slot) {
-  return slot.starts_with("_in_") || slot.starts_with("_ex_") || slot.starts_with("__STREAMS__");
+  return slot.starts_with("_");
 }
 
 // A published number in the unit that the result has.
@@ -87,7 +88,7 @@ bool isRight(std::size_t column) {
 }
 
 void printRows(std::ostream& out, const std::vector<Row>& rows) {
-  Row::size_type widths[8] = {};
+  std::array<std::size_t, 6> widths{};
   for (const Row& row : rows) {
     for (std::size_t i = 0; i < row.size(); ++i) widths[i] = std::max(widths[i], row[i].size());
   }

@@ -5,6 +5,7 @@
 
 #include "sizewright/host/text.h"
 #include "sizewright/rotating/pump.h"
+#include "sizewright/vessels/vessel.h"
 
 namespace sizewright {
 
@@ -34,6 +35,7 @@ constexpr EquipmentClass entry(std::string_view name) {
 
 constexpr auto kAvailable = std::to_array<EquipmentClass>({
     entry<CPumpObj>("CPumpObj"),
+    entry<CVesObj>("CVesObj"),
 });
 
 struct FamilyRow {

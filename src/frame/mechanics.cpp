@@ -158,6 +158,9 @@ void CSizeEquip::takeFormNumber(double& field, const CStrList& names, const CStr
       if (!present) field = 0.0;
       if (present && hasUnit) field = value;
       break;
+    case FormRule::adjusted:
+      field = present ? value : 0.0;
+      break;
     case FormRule::plain:
       field = present ? number : 0.0;
       break;

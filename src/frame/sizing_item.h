@@ -73,6 +73,24 @@ class SizingItem : public CSizeEquip {
     }
   }
 
+  /// Reads the fields that are not positive yet from the design criteria; those without a criterion
+  /// take their fallback.
+  void readCriteria(std::span<const CriterionRow<Data>> rows) {
+    for (const CriterionRow<Data>& row : rows) {
+      double& field = data().*row.field;
+      if (field > 0.0) continue;
+      if (GetValueFromDesCriteria(row.name, field, row.units) == 0) field = row.fallback;
+    }
+  }
+
+  /// Reads the fields that are not positive yet from the project's own record, under the names of
+  /// the criteria.
+  void readProject(std::span<const CriterionRow<Data>> rows) {
+    for (const CriterionRow<Data>& row : rows) {
+      readSource(data().*row.field, From::projectObject, row.name, row.units, Lookup::own);
+    }
+  }
+
   /// Replaces the stream lists by the one inlet and the one exit that a form names.
   void takeStreams(std::string_view inletLabel, std::string_view exitLabel, const CStrList& names,
                    const CStrList& texts) {

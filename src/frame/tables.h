@@ -40,9 +40,20 @@ struct SourceRow {
   Lookup lookup = Lookup::inherited;
 };
 
+/// A quantity that design criteria give, read while the field is not positive; the fallback counts
+/// without the criterion. The project's record names it alike.
+template <class Data>
+struct CriterionRow {
+  const char* name;
+  double Data::*field;
+  const char* units = "";
+  double fallback = 0.0;
+};
+
 /// What a form's number means for its field.
 enum class FormRule : std::uint8_t {
   converted,    // to the field's unit; without a unit the field stays; 0 when absent
+  adjusted,     // to the field's unit; without a unit as it stands; 0 when absent
   plain,        // as it stands; 0 when absent
   plainOrKept,  // as it stands; the field stays when absent
   ifPositive,   // converted when a unit came with it; the field stays unless positive

@@ -28,8 +28,8 @@ class TestPlant {
   std::unique_ptr<Equipment> make(std::string_view item, int interactive = 0,
                                   const char* mode = "") {
     select(item);
-    return std::make_unique<Equipment>(interactive, "", "", "", "", mode, nullptr,
-                                       host_->project(), host_->simCase());
+    return std::make_unique<Equipment>(interactive, "", "", "", "", mode, nullptr, host_->project(),
+                                       host_->simCase());
   }
   void select(std::string_view item);
 
