@@ -5,6 +5,8 @@
 
 #include "sizewright/host/text.h"
 #include "sizewright/rotating/pump.h"
+#include "sizewright/separation/dryer.h"
+#include "sizewright/separation/dust_collector.h"
 
 namespace sizewright {
 
@@ -34,6 +36,8 @@ constexpr EquipmentClass entry(std::string_view name) {
 
 constexpr auto kAvailable = std::to_array<EquipmentClass>({
     entry<CPumpObj>("CPumpObj"),
+    entry<CDcObj>("CDcObj"),
+    entry<CDryObj>("CDryObj"),
 });
 
 struct FamilyRow {

@@ -32,12 +32,6 @@ constexpr auto kEvaporationSources = std::to_array<SourceRow<D>>({
     {&D::evaporationRate, projectObject, "CpEvaporationRate", "LB/H"},
     {&D::evaporationRate, simObject, "Evaporation Rate", "LB/H"},
 });
-constexpr auto kTraySources = std::to_array<SourceRow<D>>({
-    {&D::surfaceArea, projectObject, "CpTrayArea", "SF"},
-    {&D::surfaceArea, simObject, "Tray Area", "SF"},
-    {&D::length, projectObject, "Tray Length", "FEET"},
-    {&D::length, simObject, "Tray Length", "FEET"},
-});
 
 constexpr UnitLimit onlySplitFromOne(double lower, double upper) {
   return {.lower = lower, .upper = upper, .split = SplitWhen::oneUnit};
@@ -162,7 +156,7 @@ int CDryObj::dry_stp() {
   dry_stp_get_exits();
   const double evaporated = data().inletLiquidFlow - data().exitLiquidFlow;
   setIfNotPositive(data().productFlow, data().solidFlow);
-  setIfNotPositive(data().evaporationRate, std::max(evaporated, 0.0));
+  setIfNotPositive(data().evaporationRate, evaporated > 0.0 ? evaporated : 0.0);
   status(61, "Obtaining dimensions given.");
   dry_stp_sizing();
   return 1;
@@ -215,8 +209,15 @@ void CDryObj::dry_stp_get_stream_solid_flow_rate_for_wingems(CvdStream& stream, 
   volume = solidVolume(flow, kSolidDensity);
 }
 
+// What the project or the block tells of the trays stands in for what was there, absent or not.
 void CDryObj::dry_stp_sizing() {
-  if (projectObject != nullptr) read(kTraySources);
+  if (projectObject == nullptr) return;
+  const auto given = [this](const char* ofProject, const char* ofBlock, const char* units) {
+    return readOr(projectObject.get(), ofProject, units,
+                  readOr(simObject.get(), ofBlock, units, 0.0));
+  };
+  data().surfaceArea = given("CpTrayArea", "Tray Area", "SF");
+  data().length = given("Tray Length", "Tray Length", "FEET");
 }
 
 // --- Sizing -------------------------------------------------------------------------------------
@@ -245,6 +246,7 @@ void CDryObj::setCapacityFactors() {
 
 void CDryObj::dry_cal_capacity() {
   setCapacityFactors();
+  // kept: a capacity that is there is worked out anew, and split no more once there are several
   data().capacity = dryerCapacity(data().solidVolumeFlow, data().holdFactor, data().fillPercent);
   applyLimit(kVacuumLimit, data().capacity, data().numberItems);
 }
