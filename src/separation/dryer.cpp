@@ -97,10 +97,6 @@ constexpr auto kCountResult = std::to_array<ResultRow<D>>({
     {"CpNumberItems", &D::numberItems, When::aboveOne, Style::count},
 });
 
-void status(int percent, const char* text) {
-  status_write(percent, 3, text);
-}
-
 double squareRoot(double value) {
   return CSizeEquip::compiler_pow_double(value, 0.5);
 }
@@ -150,14 +146,11 @@ int CDryObj::GetStreamInfo() {
 // --- Setup --------------------------------------------------------------------------------------
 
 int CDryObj::dry_stp() {
-  status(40, "Obtaining inlet stream flows.");
   dry_stp_get_inlets();
-  status(50, "Obtaining exit stream flows.");
   dry_stp_get_exits();
   const double evaporated = data().inletLiquidFlow - data().exitLiquidFlow;
   setIfNotPositive(data().productFlow, data().solidFlow);
   setIfNotPositive(data().evaporationRate, evaporated > 0.0 ? evaporated : 0.0);
-  status(61, "Obtaining dimensions given.");
   dry_stp_sizing();
   return 1;
 }
@@ -223,7 +216,6 @@ void CDryObj::dry_stp_sizing() {
 // --- Sizing -------------------------------------------------------------------------------------
 
 int CDryObj::dry_siz() {
-  status(67, "Performing sizing calculations.");
   data().numberItems = std::max(data().numberItems, 1.0);
   if (categoryIs({"EAD"})) {
     data().gasFlowrate = data().airMassFlow / kAirDensity;  // kept: no stream fills the air flow
@@ -235,7 +227,6 @@ int CDryObj::dry_siz() {
   } else {
     dry_cal_surface_area();
   }
-  status(88, "Completed sizing calculations.");
   return 1;
 }
 

@@ -31,6 +31,11 @@ struct DustCollectorData {
   double migration_velocity = 0.0;  // FPS; precipitator
 };
 
+/// Density of water, PCF, by which gravities and the capacity of water cyclones are told.
+inline constexpr double kSeparatorWaterDensity = 62.4;
+/// Inlet velocity of a gas cyclone where none is given, FPS.
+inline constexpr double kCycloneInletVelocity = 150.0;
+
 // --- Correlations -------------------------------------------------------------------------------
 
 /// Diameter (FEET) of a cyclone whose inlet is a quarter of it wide and `inletRatio` times as high,
