@@ -1,14 +1,9 @@
 #pragma once
 
-#include <nlohmann/json.hpp>
-#include <string>
-
 #include "sizewright/separation/dryer.h"
-#include "support/test_plant.h"
+#include "support/item_at_hand.h"
 
 namespace sizewright {
-
-using PlantJson = nlohmann::ordered_json;
 
 /// A dryer D-1 of the given category and item from FEED (1,000 LB/H of liquid) to CAKE (200 LB/H of
 /// liquid, 4,680 LB/H of solids of 46.8 PCF: 100 CFH) and FUMES (700 LB/H of vapor), all of them
@@ -42,19 +37,9 @@ class DryerUnderTest : public CDryObj {
 };
 
 /// The dryer D-1 of a plant, alive with it.
-struct DryerAtHand {
+struct DryerAtHand : ItemAtHand<DryerUnderTest> {
   explicit DryerAtHand(const PlantJson& json, int interactive = 0)
-      : plant(json.dump()), dryer(plant.make<DryerUnderTest>("D-1", interactive)) {}
-
-  DryerUnderTest* operator->() { return dryer.get(); }
-  [[nodiscard]] const DryerData& values() const { return dryer->values(); }
-  double number(std::string_view slot) { return plant.number("D-1", slot); }
-  std::string units(std::string_view slot) { return plant.units("D-1", slot); }
-  std::string text(std::string_view slot) { return plant.text("D-1", slot); }
-  bool has(std::string_view slot) { return plant.has("D-1", slot); }
-
-  TestPlant plant;
-  std::unique_ptr<DryerUnderTest> dryer;
+      : ItemAtHand(json, "D-1", interactive) {}
 };
 
 // Parts of a plant under construction.

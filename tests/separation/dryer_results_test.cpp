@@ -8,7 +8,7 @@ namespace sizewright {
 namespace {
 
 using Plant = PlantJson;
-using Progress = std::vector<std::pair<int, std::string>>;
+using Progress = DryerAtHand::Progress;
 
 const std::vector<const char*> kSlots = {"CpEvaporationRate", "CpFlowrate",   "CpGasFlowrate",
                                          "CpDryerCapacity",   "CpTrayArea",   "CpSurfaceArea",
@@ -99,10 +99,7 @@ TEST(DryerResults, Several_items_are_counted) {
 
 TEST(DryerResults, The_report_tells_its_progress) {
   DryerAtHand dryer(dryerPlant("ED", "TRAY"));
-  const std::size_t before = dryer.plant.progress().size();
-  dryer->SaveParameters();
-  const Progress all = dryer.plant.progress();
-  EXPECT_EQ(Progress(all.begin() + static_cast<std::ptrdiff_t>(before), all.end()),
+  EXPECT_EQ(dryer.progressOf([](auto& object) { object.SaveParameters(); }),
             (Progress{{75, "Preparing the design report. Please Wait ..."},
                       {79, "Writing preliminary information."},
                       {80, "Writing design parameters"},

@@ -1,14 +1,9 @@
 #pragma once
 
-#include <nlohmann/json.hpp>
-#include <string>
-
 #include "sizewright/separation/dust_collector.h"
-#include "support/test_plant.h"
+#include "support/item_at_hand.h"
 
 namespace sizewright {
-
-using PlantJson = nlohmann::ordered_json;
 
 /// A collector DC-1 of the given category and item from RAW to CLEAN and DUST. RAW carries 540,000
 /// CFH (150 CFS) of vapor and 1,000 CFH of liquid at 300 DEG F.
@@ -43,29 +38,20 @@ class CollectorUnderTest : public CDcObj {
 };
 
 /// The collector DC-1 of a plant, alive with it.
-struct CollectorAtHand {
+struct CollectorAtHand : ItemAtHand<CollectorUnderTest> {
   explicit CollectorAtHand(const PlantJson& json, int interactive = 0)
-      : plant(json.dump()), collector(plant.make<CollectorUnderTest>("DC-1", interactive)) {}
+      : ItemAtHand(json, "DC-1", interactive) {}
 
-  CollectorUnderTest* operator->() { return collector.get(); }
-  [[nodiscard]] const DustCollectorData& values() const { return collector->values(); }
-  double number(std::string_view slot) { return plant.number("DC-1", slot); }
-  std::string units(std::string_view slot) { return plant.units("DC-1", slot); }
-  std::string text(std::string_view slot) { return plant.text("DC-1", slot); }
-  bool has(std::string_view slot) { return plant.has("DC-1", slot); }
   /// The warnings but for the one that tells the air temperature.
   [[nodiscard]] std::vector<std::string> warnings() const {
     std::vector<std::string> texts;
-    const CStrList& list = collector->Warnings();
+    const CStrList& list = object->Warnings();
     for (int i = 0; i < list.GetLength(); ++i) {
       const std::string text = list.GetTextAt(i);
       if (text.find("Max Inlet Stream's Temp.") == std::string::npos) texts.push_back(text);
     }
     return texts;
   }
-
-  TestPlant plant;
-  std::unique_ptr<CollectorUnderTest> collector;
 };
 
 // Parts of a plant under construction.

@@ -492,10 +492,9 @@ INSTANTIATE_TEST_SUITE_P(
                    R"({"CAPACITY": [624, "LB/H"], "NO. CYCLONE/MANIFOLD": 8})", 100, 2, 0, 0.5,
                    3.5},
         LiquidCase{"WATER CYCL", "{}",
-                   R"({"CAPACITY": [624, "LB/H"], "NO. CYCLONE/MANIFOLD": 8,
-                       "LENGTH OF CYCLONE (SIM)": [9, "FEET"], "CpDiameterWidth": [1, "FEET"]})",
-                   10, 0, 9, 0.5, 8
-},
+                   R"J({"CAPACITY": [624, "LB/H"], "NO. CYCLONE/MANIFOLD": 8,
+                       "LENGTH OF CYCLONE (SIM)": [9, "FEET"], "CpDiameterWidth": [1, "FEET"]})J",
+                   10, 0, 9, 0.5, 8},
         LiquidCase{"OIL WATER",
                    R"({"CpLiquidFlowrate": [55, "CFH"], "CpDiameterWidth": [2, "FEET"],
                        "CpLength": [20, "FEET"], "CpOilSpecificGravity": 0.9,

@@ -6,7 +6,7 @@ namespace sizewright {
 namespace {
 
 using Plant = PlantJson;
-using Progress = std::vector<std::pair<int, std::string>>;
+using Progress = CollectorAtHand::Progress;
 
 constexpr const char* kNoFlow = "No inlet vapor flow specified.";
 
@@ -237,10 +237,7 @@ TEST(CollectorStreams, The_exits_tell_the_gravity_of_the_oil) {
 
 TEST(CollectorStreams, Progress_is_told_step_by_step) {
   CollectorAtHand collector(collectorPlant("EDC", "CYCLONE"));
-  const std::size_t before = collector.plant.progress().size();
-  collector->Size();
-  const Progress all = collector.plant.progress();
-  EXPECT_EQ(Progress(all.begin() + static_cast<std::ptrdiff_t>(before), all.end()),
+  EXPECT_EQ(collector.progressOf([](auto& object) { object.Size(); }),
             (Progress{{35, "Checking inlets.."},
                       {35, "Checking exits..."},
                       {30, "Obtaining process parameters. Please wait..."},
