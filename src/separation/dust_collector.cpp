@@ -120,7 +120,8 @@ int CDcObj::GetStreamInfo() {
   checkInlets();
   findStreams(inlets(), kInlet, "Inlet stream", "INLET");
   checkExits();
-  findExits(exits(), {"OUTLET", "VAPOR OUTLET"});
+  // kept: outlets are asked for twice, which finds nothing new
+  findExits(exits(), {"OUTLET", "OUTLET", "VAPOR OUTLET"});
   return hasBothStreams();
 }
 
@@ -142,7 +143,7 @@ int CDcObj::dc_setup() {
   if (isLiquidCategory()) setIfNotPositive(data().flow_per_unit, givenLiquidFlow());
   read(kDimensions);
   dc_setup_efficiency();
-  if (data().flow_per_unit > 0.0) data().total_gas_flow = data().flow_per_unit * units;
+  setIfNotPositive(data().total_gas_flow, data().flow_per_unit * units);
   const int result = dcstream(isLiquidCategory() ? 0.0 : givenGasFlow() * units);
   if (result != 0) data().flow_per_unit = data().total_gas_flow / units;
   return result;

@@ -63,10 +63,10 @@ constexpr auto kLiquidItems = std::to_array<LiquidRow>({
 });
 
 const LiquidRow* liquidRow(std::string_view item) {
-  const auto found =
-      std::find_if(kLiquidItems.begin(), kLiquidItems.end(),
-                   [item](const LiquidRow& row) { return sameWord(item, row.item); });
-  return found != kLiquidItems.end() ? &*found : nullptr;
+  for (const LiquidRow& row : kLiquidItems) {
+    if (sameWord(item, row.item)) return &row;
+  }
+  return nullptr;
 }
 
 }  // namespace

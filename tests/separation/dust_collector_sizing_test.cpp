@@ -273,6 +273,22 @@ TEST(Washers, Are_left_alone) {
   EXPECT_DOUBLE_EQ(collector.values().flow_per_unit, kFlow);
 }
 
+TEST(CollectorSizing, A_second_run_finds_the_same) {
+  for (const char* item : {"CYCLONE", "MULT CYCLO", "PULSE SHKR", "ELC L VOLT", "SOME OTHER"}) {
+    Plant plant = collectorPlant("EDC", item);
+    recordOf(plant)["CpNumberItems"] = 3;
+    CollectorAtHand collector(plant);
+    collector->Size();
+    const DustCollectorData first = collector.values();
+    EXPECT_EQ(collector->Size(), 1);
+    EXPECT_DOUBLE_EQ(collector.values().total_gas_flow, kFlow) << item;
+    EXPECT_DOUBLE_EQ(collector.values().flow_per_unit, first.flow_per_unit) << item;
+    EXPECT_DOUBLE_EQ(collector.values().cyclone_dia, first.cyclone_dia) << item;
+    EXPECT_DOUBLE_EQ(collector.values().filter_area, first.filter_area) << item;
+    EXPECT_EQ(collector.values().num_cyclones, first.num_cyclones) << item;
+  }
+}
+
 // --- Bag houses ---------------------------------------------------------------------------------
 
 TEST(BagHouse, Without_areas_has_the_ratio_of_its_item) {
