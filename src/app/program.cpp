@@ -94,7 +94,7 @@ int writeNewPlant(const Arguments& arguments) {
   }
   Output out(arguments.out);
   for (const EmbeddedFile& file : embeddedFiles()) {
-    if (file.name == "data/templates/new_plant.json") out.stream() << file.text;
+    if (file.name == "templates/new_plant.json") out.stream() << file.text;
   }
   out.finish();
   return 0;

@@ -1,5 +1,6 @@
 #include "sizewright/embedded/embedded_host.h"
 
+#include <array>
 #include <string>
 
 #include "sizewright/embedded/bundled_data.h"
@@ -16,8 +17,8 @@ namespace {
 constexpr std::string_view kEquipmentInformation = "equipment information";
 
 // Databases that every project has.
-constexpr std::string_view kProjectDatabases[] = {"VPECOMP", "UTILITY", "DESIGN", "VPEPROJ",
-                                                  "VPEPROC", "PROC",    "SIZE"};
+constexpr auto kProjectDatabases = std::to_array<std::string_view>(
+    {"VPECOMP", "UTILITY", "DESIGN", "VPEPROJ", "VPEPROC", "PROC", "SIZE"});
 
 template <class Value>
 void layOver(std::optional<Value>& value, const std::optional<Value>& given) {

@@ -5,6 +5,8 @@
 
 #include "sizewright/host/text.h"
 #include "sizewright/rotating/pump.h"
+#include "sizewright/separation/dryer.h"
+#include "sizewright/separation/dust_collector.h"
 #include "sizewright/vessels/vessel.h"
 
 namespace sizewright {
@@ -36,6 +38,8 @@ constexpr EquipmentClass entry(std::string_view name) {
 constexpr auto kAvailable = std::to_array<EquipmentClass>({
     entry<CPumpObj>("CPumpObj"),
     entry<CVesObj>("CVesObj"),
+    entry<CDcObj>("CDcObj"),
+    entry<CDryObj>("CDryObj"),
 });
 
 struct FamilyRow {
@@ -102,8 +106,9 @@ std::string_view equipmentClassName(std::string_view wanted, std::string_view ca
 }
 
 const EquipmentClass* findEquipmentClass(std::string_view name) {
-  const auto found = std::find_if(kAvailable.begin(), kAvailable.end(),
-                                  [name](const EquipmentClass& row) { return row.name == name; });
+  const auto* const found =
+      std::find_if(kAvailable.begin(), kAvailable.end(),
+                   [name](const EquipmentClass& row) { return row.name == name; });
   return found != kAvailable.end() ? &*found : nullptr;
 }
 

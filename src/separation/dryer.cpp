@@ -32,12 +32,6 @@ constexpr auto kEvaporationSources = std::to_array<SourceRow<D>>({
     {&D::evaporationRate, projectObject, "CpEvaporationRate", "LB/H"},
     {&D::evaporationRate, simObject, "Evaporation Rate", "LB/H"},
 });
-constexpr auto kTraySources = std::to_array<SourceRow<D>>({
-    {&D::surfaceArea, projectObject, "CpTrayArea", "SF"},
-    {&D::surfaceArea, simObject, "Tray Area", "SF"},
-    {&D::length, projectObject, "Tray Length", "FEET"},
-    {&D::length, simObject, "Tray Length", "FEET"},
-});
 
 constexpr UnitLimit onlySplitFromOne(double lower, double upper) {
   return {.lower = lower, .upper = upper, .split = SplitWhen::oneUnit};
@@ -103,10 +97,6 @@ constexpr auto kCountResult = std::to_array<ResultRow<D>>({
     {"CpNumberItems", &D::numberItems, When::aboveOne, Style::count},
 });
 
-void status(int percent, const char* text) {
-  status_write(percent, 3, text);
-}
-
 double squareRoot(double value) {
   return CSizeEquip::compiler_pow_double(value, 0.5);
 }
@@ -156,14 +146,11 @@ int CDryObj::GetStreamInfo() {
 // --- Setup --------------------------------------------------------------------------------------
 
 int CDryObj::dry_stp() {
-  status(40, "Obtaining inlet stream flows.");
   dry_stp_get_inlets();
-  status(50, "Obtaining exit stream flows.");
   dry_stp_get_exits();
   const double evaporated = data().inletLiquidFlow - data().exitLiquidFlow;
   setIfNotPositive(data().productFlow, data().solidFlow);
-  setIfNotPositive(data().evaporationRate, std::max(evaporated, 0.0));
-  status(61, "Obtaining dimensions given.");
+  setIfNotPositive(data().evaporationRate, evaporated > 0.0 ? evaporated : 0.0);
   dry_stp_sizing();
   return 1;
 }
@@ -215,14 +202,20 @@ void CDryObj::dry_stp_get_stream_solid_flow_rate_for_wingems(CvdStream& stream, 
   volume = solidVolume(flow, kSolidDensity);
 }
 
+// What the project or the block tells of the trays stands in for what was there, absent or not.
 void CDryObj::dry_stp_sizing() {
-  if (projectObject != nullptr) read(kTraySources);
+  if (projectObject == nullptr) return;
+  const auto given = [this](const char* ofProject, const char* ofBlock, const char* units) {
+    return readOr(projectObject.get(), ofProject, units,
+                  readOr(simObject.get(), ofBlock, units, 0.0));
+  };
+  data().surfaceArea = given("CpTrayArea", "Tray Area", "SF");
+  data().length = given("Tray Length", "Tray Length", "FEET");
 }
 
 // --- Sizing -------------------------------------------------------------------------------------
 
 int CDryObj::dry_siz() {
-  status(67, "Performing sizing calculations.");
   data().numberItems = std::max(data().numberItems, 1.0);
   if (categoryIs({"EAD"})) {
     data().gasFlowrate = data().airMassFlow / kAirDensity;  // kept: no stream fills the air flow
@@ -234,7 +227,6 @@ int CDryObj::dry_siz() {
   } else {
     dry_cal_surface_area();
   }
-  status(88, "Completed sizing calculations.");
   return 1;
 }
 
@@ -245,6 +237,7 @@ void CDryObj::setCapacityFactors() {
 
 void CDryObj::dry_cal_capacity() {
   setCapacityFactors();
+  // kept: a capacity that is there is worked out anew, and split no more once there are several
   data().capacity = dryerCapacity(data().solidVolumeFlow, data().holdFactor, data().fillPercent);
   applyLimit(kVacuumLimit, data().capacity, data().numberItems);
 }

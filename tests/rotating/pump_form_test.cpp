@@ -40,7 +40,7 @@ TEST(PumpForm, Shows_every_field_in_order_with_customary_units) {
   PumpAtHand pump(fullPump());
   pump->GetLastInfo();
   pump->Size();
-  const Rows rows = formOf(*pump.pump);
+  const Rows rows = formOf(*pump.object);
   EXPECT_EQ(
       labelsOf(rows),
       (std::vector<std::string>{
@@ -81,7 +81,7 @@ TEST(PumpForm, Shows_metric_units_in_a_metric_project) {
                          Row{"Design Pressure", 145 * 6.894757293168361, "KPA"},
                          Row{"CpDesignTemperature", (160 - 32) / 1.8, "DEG C"},
                          Row{"CpFluidHead", 100 * 2.31 / (50 / kWater) * 0.3048, "M"}}) {
-    const auto [number, units] = measure(formValue(*pump.pump, row.label));
+    const auto [number, units] = measure(formValue(*pump.object, row.label));
     EXPECT_EQ(units, row.units) << row.label;
     EXPECT_NEAR(number, row.number, 1e-9 * row.number) << row.label;
   }
@@ -90,7 +90,7 @@ TEST(PumpForm, Shows_metric_units_in_a_metric_project) {
 TEST(PumpForm, Leaves_out_what_is_0) {
   PumpAtHand pump(pumpPlant());
   pump->GetLastInfo();
-  EXPECT_EQ(labelsOf(formOf(*pump.pump)),
+  EXPECT_EQ(labelsOf(formOf(*pump.object)),
             (std::vector<std::string>{"Inlet Stream", "Outlet Stream", "Capacity Overdesign Factor",
                                       "CpNumberItems"}));
 }
@@ -100,7 +100,7 @@ TEST(PumpForm, Shows_the_mass_of_a_stock_pump_as_if_it_were_a_volume) {
   itemOf(plant)["item"] = "HD STOCK";
   PumpAtHand pump(plant);
   pump->Size();
-  const auto [number, units] = measure(formValue(*pump.pump, "CpStockFlowrateAD"));
+  const auto [number, units] = measure(formValue(*pump.object, "CpStockFlowrateAD"));
   EXPECT_EQ(units, "GPM");
   EXPECT_NEAR(number, 10000 * kGallonsPerCubicFoot / 60, 1e-8);
 }
@@ -131,7 +131,7 @@ Plant severalStreams() {
 TEST(PumpForm, Selects_the_stream_of_the_greatest_mass_flow_among_several) {
   PumpAtHand pump(severalStreams(), 1);
   pump->GetLastInfo();
-  const Rows rows = formOf(*pump.pump);
+  const Rows rows = formOf(*pump.object);
   EXPECT_EQ(rows[0].second, "S3");
   EXPECT_EQ(rows[1].second, "S4");
   EXPECT_EQ(pump.plant.dialogTexts(),
@@ -153,7 +153,7 @@ TEST(PumpForm, Selects_the_stream_of_the_greatest_mass_flow_among_several) {
 TEST(PumpForm, Selects_without_a_dialog_when_unattended) {
   PumpAtHand pump(severalStreams(), 0);
   pump->GetLastInfo();
-  EXPECT_EQ(formOf(*pump.pump)[0].second, "S3");
+  EXPECT_EQ(formOf(*pump.object)[0].second, "S3");
   EXPECT_TRUE(pump.plant.dialogTexts().empty());
 }
 
@@ -191,7 +191,7 @@ INSTANTIATE_TEST_SUITE_P(
 
 TEST_P(PumpFormIn, Is_taken_in_the_fields_unit) {
   PumpAtHand pump(pumpPlant());
-  EXPECT_EQ(setForm(*pump.pump, {{GetParam().label, GetParam().given}}), 1);
+  EXPECT_EQ(setForm(*pump.object, {{GetParam().label, GetParam().given}}), 1);
   EXPECT_NEAR(pump.values().*GetParam().field, GetParam().expected, 1e-9 * GetParam().expected);
 }
 
@@ -205,40 +205,40 @@ bool takesTheNumberAsItStands(const std::string& label) {
 
 TEST_P(PumpFormIn, Zeroes_its_field_when_absent) {
   PumpAtHand pump(pumpPlant());
-  setForm(*pump.pump, {{GetParam().label, GetParam().given}});
-  setForm(*pump.pump, {{"Inlet Stream", "S1"}});
+  setForm(*pump.object, {{GetParam().label, GetParam().given}});
+  setForm(*pump.object, {{"Inlet Stream", "S1"}});
   const double expected = keepsItsFieldWhenAbsent(GetParam().label) ? GetParam().expected : 0.0;
   EXPECT_EQ(pump.values().*GetParam().field, expected);
 }
 
 TEST_P(PumpFormIn, Without_a_unit_keeps_the_field_unless_it_has_none) {
   PumpAtHand pump(pumpPlant());
-  setForm(*pump.pump, {{GetParam().label, GetParam().given}});
-  setForm(*pump.pump, {{GetParam().label, "55"}});
+  setForm(*pump.object, {{GetParam().label, GetParam().given}});
+  setForm(*pump.object, {{GetParam().label, "55"}});
   const double expected = takesTheNumberAsItStands(GetParam().label) ? 55 : GetParam().expected;
   EXPECT_NEAR(pump.values().*GetParam().field, expected, 1e-9 * expected);
 }
 
 TEST(PumpForm, A_factor_that_is_not_positive_does_not_count) {
   PumpAtHand pump(pumpPlant());
-  setForm(*pump.pump, {{"Capacity Overdesign Factor", "1.2"}});
-  setForm(*pump.pump, {{"Capacity Overdesign Factor", "0"}});
+  setForm(*pump.object, {{"Capacity Overdesign Factor", "1.2"}});
+  setForm(*pump.object, {{"Capacity Overdesign Factor", "0"}});
   EXPECT_EQ(pump.values().overdesignFactor, 1.2);
-  setForm(*pump.pump, {{"Capacity Overdesign Factor", "-2"}});
+  setForm(*pump.object, {{"Capacity Overdesign Factor", "-2"}});
   EXPECT_EQ(pump.values().overdesignFactor, 1.2);
 }
 
 TEST(PumpForm, An_empty_form_changes_nothing) {
   PumpAtHand pump(pumpPlant());
-  setForm(*pump.pump, {{"Total Mass Flow", "5\nLB/H"}});
-  EXPECT_EQ(setForm(*pump.pump, {}), 0);
+  setForm(*pump.object, {{"Total Mass Flow", "5\nLB/H"}});
+  EXPECT_EQ(setForm(*pump.object, {}), 0);
   EXPECT_EQ(pump.values().totalMassFlow, 5);
 }
 
 TEST(PumpForm, Takes_one_stream_a_direction) {
   PumpAtHand pump(severalStreams());
   pump->GetLastInfo();
-  setForm(*pump.pump, {{"Inlet Stream", "S1"}, {"Outlet Stream", "S2"}});
+  setForm(*pump.object, {{"Inlet Stream", "S1"}, {"Outlet Stream", "S2"}});
   void* streams = list2_create();
   pump->GetInletStreams(streams);
   EXPECT_EQ(list2_length(streams), 1);
@@ -246,7 +246,7 @@ TEST(PumpForm, Takes_one_stream_a_direction) {
   pump->GetExitStreams(streams);
   EXPECT_EQ(list2_length(streams), 1);
   EXPECT_STREQ(list2_get_item(streams, 0, nullptr), "S2");
-  setForm(*pump.pump, {{"CpFluidHead", "1\nFEET"}});  // names no stream
+  setForm(*pump.object, {{"CpFluidHead", "1\nFEET"}});  // names no stream
   pump->GetInletStreams(streams);
   EXPECT_EQ(list2_length(streams), 0);
   list2_delete(streams);
@@ -256,10 +256,10 @@ TEST(PumpForm, Goes_round_without_changing_the_results) {
   PumpAtHand pump(pumpPlant());
   pump->GetLastInfo();
   pump->Size();
-  const Rows first = formOf(*pump.pump);
-  setForm(*pump.pump, first);
+  const Rows first = formOf(*pump.object);
+  setForm(*pump.object, first);
   pump->Size();
-  const Rows second = formOf(*pump.pump);
+  const Rows second = formOf(*pump.object);
   ASSERT_EQ(labelsOf(first), labelsOf(second));
   for (std::size_t i = 2; i < first.size(); ++i) {
     EXPECT_NEAR(measure(second[i].second).first, measure(first[i].second).first,

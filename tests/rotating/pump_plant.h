@@ -1,14 +1,9 @@
 #pragma once
 
-#include <nlohmann/json.hpp>
-#include <string>
-
 #include "sizewright/rotating/pump.h"
-#include "support/test_plant.h"
+#include "support/item_at_hand.h"
 
 namespace sizewright {
-
-using PlantJson = nlohmann::ordered_json;
 
 inline constexpr double kStandardAtmosphere = 14.695948775513;  // PSI
 inline constexpr double kWater = 62.43;                         // PCF
@@ -35,19 +30,9 @@ inline PlantJson pumpPlant() {
 }
 
 /// The pump P-101 of a plant, alive with it.
-struct PumpAtHand {
+struct PumpAtHand : ItemAtHand<CPumpObj> {
   explicit PumpAtHand(const PlantJson& json, int interactive = 0, const char* mode = "")
-      : plant(json.dump()), pump(plant.make<CPumpObj>("P-101", interactive, mode)) {}
-
-  CPumpObj* operator->() { return pump.get(); }
-  [[nodiscard]] const PumpData& values() const { return pump->values(); }
-  double number(std::string_view slot) { return plant.number("P-101", slot); }
-  std::string units(std::string_view slot) { return plant.units("P-101", slot); }
-  std::string text(std::string_view slot) { return plant.text("P-101", slot); }
-  bool has(std::string_view slot) { return plant.has("P-101", slot); }
-
-  TestPlant plant;
-  std::unique_ptr<CPumpObj> pump;
+      : ItemAtHand(json, "P-101", interactive, mode) {}
 };
 
 // Parts of a plant under construction.

@@ -101,7 +101,7 @@ TEST(PumpResults, The_number_of_items_is_written_as_text_above_1) {
   for (const Row& row : {Row{"1", ""}, Row{"2", "2"}, Row{"3.9", "3"}}) {
     PumpAtHand pump(pumpPlant());
     pump->GetLastInfo();
-    setForm(*pump.pump, {{"Inlet Stream", "S1"}, {"CpNumberItems", row.given}});
+    setForm(*pump.object, {{"Inlet Stream", "S1"}, {"CpNumberItems", row.given}});
     pump->Size();
     pump->SaveParameters();
     EXPECT_EQ(pump.text("CpNumberItems"), row.written);
@@ -132,7 +132,7 @@ TEST(PumpResults, Ports_are_rewritten_for_the_streams_of_the_form) {
   plant["streams"]["S3"] = plant["streams"]["S1"];
   PumpAtHand pump(plant);
   pump->GetLastInfo();
-  setForm(*pump.pump, {{"Inlet Stream", "S3"}, {"Outlet Stream", "S2"}});
+  setForm(*pump.object, {{"Inlet Stream", "S3"}, {"Outlet Stream", "S2"}});
   EXPECT_EQ(pump->UpdateConnectivity(), 1);
   EXPECT_EQ(pump.text("__STREAMS__IN"), "_in__1");  // kept: "_in_", then "_" and the number
   EXPECT_EQ(pump.text("__STREAMS__EX"), "_ex__1");

@@ -323,10 +323,10 @@ TEST(PumpDesign, A_temperature_of_exactly_0_counts_as_unset) {
   Plant plant = pumpPlant();
   PumpAtHand pump(plant);
   pump->GetLastInfo();
-  setForm(*pump.pump, {{"Inlet Stream", "S1"},
-                       {"Outlet Stream", "S2"},
-                       {"CpDesignTemperature", "0\nDEG F"},
-                       {"Minimum Inlet Temperature", "0\nDEG F"}});
+  setForm(*pump.object, {{"Inlet Stream", "S1"},
+                         {"Outlet Stream", "S2"},
+                         {"CpDesignTemperature", "0\nDEG F"},
+                         {"Minimum Inlet Temperature", "0\nDEG F"}});
   pump->Size();
   EXPECT_NEAR(pump.values().designTemperature, 160, 1e-9);
   EXPECT_EQ(pump.values().minInletTemperature, 100);
