@@ -3,7 +3,9 @@
 #include <algorithm>
 #include <array>
 
+#include "sizewright/fired/cooling_tower.h"
 #include "sizewright/host/text.h"
+#include "sizewright/rotating/compressor.h"
 #include "sizewright/rotating/pump.h"
 
 namespace sizewright {
@@ -34,6 +36,8 @@ constexpr EquipmentClass entry(std::string_view name) {
 
 constexpr auto kAvailable = std::to_array<EquipmentClass>({
     entry<CPumpObj>("CPumpObj"),
+    entry<CCompObj>("CCompObj"),
+    entry<CCoolTwObj>("CCoolTwObj"),
 });
 
 struct FamilyRow {
