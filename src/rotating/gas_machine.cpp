@@ -153,7 +153,7 @@ void GasMachine::comp_stp_get_block_info() {
 
 void GasMachine::comp_stp_get_proc_info() {
   read(kPowerSources);
-  if (isExpander()) return;  // its gas data come from the streams alone
+  if (isExpander()) return;  // no gas data are looked for beyond its record
   read(kGasSources);
   if (variant().intercooler) {
     readTemperature(data().intercoolerTemperature, From::simObject,
