@@ -196,6 +196,9 @@ double GasMachine::comp_stp_get_inlets() {
         "Multiple Inlet Streams found.Sizing will use the inlet stream with max flow rate. Please "
         "check the flow rate");
   }
+  if (variant().streamAverages) {
+    status(40, "Obtaining compressibility factors and heat capacity ratios of the inlets.");
+  }
   StreamSummary summary;
   Greatest volumeFlow(0.0);
   Least pressure(0.0);
@@ -228,6 +231,9 @@ double GasMachine::comp_stp_get_inlets() {
 // Returns the mean Cp/Cv of the exits.
 double GasMachine::comp_stp_get_exits() {
   status(50, "Obtaining exit stream information.");
+  if (variant().streamAverages) {
+    status(55, "Obtaining compressibility factors and heat capacity ratios of the exits.");
+  }
   StreamSummary summary;
   FluidName fluid;
   Greatest pressure(0.0);
