@@ -3,7 +3,9 @@
 #include <algorithm>
 #include <array>
 
+#include "sizewright/fired/cooling_tower.h"
 #include "sizewright/host/text.h"
+#include "sizewright/rotating/compressor.h"
 #include "sizewright/rotating/pump.h"
 #include "sizewright/separation/dryer.h"
 #include "sizewright/separation/dust_collector.h"
@@ -40,6 +42,8 @@ constexpr auto kAvailable = std::to_array<EquipmentClass>({
     entry<CVesObj>("CVesObj"),
     entry<CDcObj>("CDcObj"),
     entry<CDryObj>("CDryObj"),
+    entry<CCompObj>("CCompObj"),
+    entry<CCoolTwObj>("CCoolTwObj"),
 });
 
 struct FamilyRow {
