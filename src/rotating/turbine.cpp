@@ -62,7 +62,7 @@ const char* fluidOfDensity(double gramsPerCubicCentimetre) {
 
 }  // namespace
 
-double idealHeatCapacityRatio(double cp, double molecularWeight) {
+double gasHeatCapacityRatio(double cp, double molecularWeight) {
   return cp / (cp - kGasConstant / molecularWeight);
 }
 
@@ -247,7 +247,7 @@ void CTurbObj::turb_siz_power() {
 
 void CTurbObj::turbine_calculate_power_output() {
   if (!(data().fluidCp > 0.0)) calculate_fluid_Cp();
-  data().heatCapacityRatio = idealHeatCapacityRatio(
+  data().heatCapacityRatio = gasHeatCapacityRatio(
       converted(data().fluidCp, kCpUnits, "CAL/G/DEG C"), data().molecularWeight);
   const double power = expansionPower(
       data().fluidCp, converted(data().inletTemperature, "DEG F", "DEG R"),

@@ -29,7 +29,7 @@ struct TurbineData {
 
 /// Cp/Cv of an ideal gas of a molar mass: Cp / (Cp - R / M), Cp in CAL/G/DEG C and R of 1.98719
 /// CAL/MOL/DEG C.
-double idealHeatCapacityRatio(double cp, double molecularWeight);
+double gasHeatCapacityRatio(double cp, double molecularWeight);
 /// Power (BTU/H) of an isentropic expansion of an ideal gas at an efficiency of 0.5: Cp in
 /// BTU/LB/DEG F, inlet temperature in DEG R, mass flow in LB/H, exit over inlet pressure.
 double expansionPower(double cp, double inletTemperature, double pressureRatio,
