@@ -41,18 +41,18 @@ TEST_P(BlockOfItem, Is_the_first_that_the_record_names) {
   EXPECT_EQ(item->simObject != nullptr, *GetParam().model != '\0');
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Types, BlockOfItem,
-    testing::Values(TypeRow{"{}", "P-101", "OWN NAME"}, TypeRow{R"({"Type": "B1"})", "B1", "FIRST"},
-                    TypeRow{R"({"Type": ["B2", "B1"]})", "B2", "SECOND"},
-                    TypeRow{R"({"Type": 12})", "12", "NUMBERED"},
-                    TypeRow{R"({"Type": 12.9})", "12", "NUMBERED"},
-                    TypeRow{R"({"Type": [12.9, "PSI"]})", "12", "NUMBERED"},
-                    TypeRow{R"({"Type": ""})", "P-101", "OWN NAME"},
-                    TypeRow{R"({"Type": ["", "B1"]})", "P-101", "OWN NAME"},
-                    TypeRow{R"({"Type": "NOWHERE"})", "NOWHERE", ""},
-                    TypeRow{R"({"Type": "PM1"})", "PM1", "PREMAPPED"},
-                    TypeRow{R"({"Type": "B1-tower"})", "B2", "SECOND"}));
+INSTANTIATE_TEST_SUITE_P(Types, BlockOfItem,
+                         testing::Values(TypeRow{"{}", "P-101", "OWN NAME"},
+                                         TypeRow{R"({"Type": "B1"})", "B1", "FIRST"},
+                                         TypeRow{R"({"Type": ["B2", "B1"]})", "B2", "SECOND"},
+                                         TypeRow{R"({"Type": 12})", "12", "NUMBERED"},
+                                         TypeRow{R"({"Type": 12.9})", "12", "NUMBERED"},
+                                         TypeRow{R"({"Type": [12.9, "PSI"]})", "12", "NUMBERED"},
+                                         TypeRow{R"({"Type": ""})", "P-101", "OWN NAME"},
+                                         TypeRow{R"({"Type": ["", "B1"]})", "P-101", "OWN NAME"},
+                                         TypeRow{R"({"Type": "NOWHERE"})", "NOWHERE", ""},
+                                         TypeRow{R"({"Type": "PM1"})", "PM1", "PREMAPPED"},
+                                         TypeRow{R"({"Type": "B1-tower"})", "B2", "SECOND"}));
 
 TEST(BaseObject, The_block_may_be_named_by_what_the_record_inherits_from) {
   WatchedPlant plant(R"({"simulator": 1, "blocks": {"B1": {}}, "items": {"P-101": {"block": "B1"}},

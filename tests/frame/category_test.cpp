@@ -17,15 +17,15 @@ struct CategoryRow {
 };
 
 constexpr CategoryRow kCategories[] = {
-    {"DGC", "", 1},   {"EGC", "", 1},   {"EAC", "", 1},  {"DTUR", "", 1}, {"EFN", "", 1},
-    {"ECR", "", 2},   {"EM", "", 2},    {"ECRY", "", 3}, {"EDC", "", 4},  {"DSE", "", 4},
-    {"ESE", "", 4},   {"DDC", "", 4},   {"ED", "", 5},   {"EDD", "", 5},  {"ETDS", "", 5},
-    {"EAD", "", 5},   {"ERD", "", 5},   {"ECT", "", 6},  {"EF", "", 6},   {"DF", "", 6},
-    {"EFU", "", 7},   {"DHE", "", 8},   {"EHE", "", 8},  {"DRB", "", 8},  {"EE", "", 8},
-    {"WFE", "", 8},   {"C", "LNG", 9},  {"DCP", "", 10}, {"ECP", "", 10}, {"EGP", "", 10},
-    {"EP", "", 10},   {"EVP", "", 10},  {"DP", "", 10},  {"EVS", "", 11}, {"ETUR", "", 12},
-    {"DTW", "", 13},  {"DDDT", "", 13}, {"DVT", "", 14}, {"DHT", "", 14}, {"EVT", "", 14},
-    {"DAT", "", 14},  {"EAT", "", 14},  {"DMX", "", 15}, {"C", "", 16},   {"C", "MHEATX", 9},
+    {"DGC", "", 1},     {"EGC", "", 1},   {"EAC", "", 1},  {"DTUR", "", 1}, {"EFN", "", 1},
+    {"ECR", "", 2},     {"EM", "", 2},    {"ECRY", "", 3}, {"EDC", "", 4},  {"DSE", "", 4},
+    {"ESE", "", 4},     {"DDC", "", 4},   {"ED", "", 5},   {"EDD", "", 5},  {"ETDS", "", 5},
+    {"EAD", "", 5},     {"ERD", "", 5},   {"ECT", "", 6},  {"EF", "", 6},   {"DF", "", 6},
+    {"EFU", "", 7},     {"DHE", "", 8},   {"EHE", "", 8},  {"DRB", "", 8},  {"EE", "", 8},
+    {"WFE", "", 8},     {"C", "LNG", 9},  {"DCP", "", 10}, {"ECP", "", 10}, {"EGP", "", 10},
+    {"EP", "", 10},     {"EVP", "", 10},  {"DP", "", 10},  {"EVS", "", 11}, {"ETUR", "", 12},
+    {"DTW", "", 13},    {"DDDT", "", 13}, {"DVT", "", 14}, {"DHT", "", 14}, {"EVT", "", 14},
+    {"DAT", "", 14},    {"EAT", "", 14},  {"DMX", "", 15}, {"C", "", 16},   {"C", "MHEATX", 9},
     {"C", "HEATX", 16},
 };
 
@@ -43,9 +43,8 @@ TEST(Category, Every_category_code_has_its_family) {
 TEST(Category, Letters_of_any_case_name_the_same_family) {
   for (const CategoryRow& row : kCategories) {
     std::string code = row.category;
-    std::transform(code.begin(), code.end(), code.begin(), [](unsigned char c) {
-      return static_cast<char>(std::tolower(c));
-    });
+    std::transform(code.begin(), code.end(), code.begin(),
+                   [](unsigned char c) { return static_cast<char>(std::tolower(c)); });
     EXPECT_EQ(equipmentCategory(code, row.itemModel), row.family) << rowName(row);
   }
 }

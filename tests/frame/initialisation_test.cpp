@@ -27,9 +27,8 @@ class Initialisation : public testing::Test {
   std::unique_ptr<ProbeItem> design(int interactive = 0, const char* projectFile = "",
                                     const char* sizeFile = "", void* window = nullptr) {
     plant.select("P-101");
-    return std::make_unique<ProbeItem>(interactive, "first", projectFile, "third", sizeFile,
-                                       "mode", window, plant.host().project(),
-                                       plant.host().simCase());
+    return std::make_unique<ProbeItem>(interactive, "first", projectFile, "third", sizeFile, "mode",
+                                       window, plant.host().project(), plant.host().simCase());
   }
   void expectFailure(const ProbeItem& item, const std::string& message) {
     EXPECT_EQ(item.isValid, 0);
@@ -127,8 +126,8 @@ TEST_F(Initialisation, Texts_of_5000_characters_are_cut_to_their_buffers) {
   const ProbeItem item(0, text.c_str(), "", text.c_str(), text.c_str(), text.c_str(), nullptr,
                        plant.host().project(), plant.host().simCase());
   EXPECT_EQ(item.isValid, 1);
-  for (const std::string_view kept : {item.argFirst.view(), item.argThird.view(),
-                                      item.argSizeFile.view(), item.argMode.view()}) {
+  for (const std::string_view kept :
+       {item.argFirst.view(), item.argThird.view(), item.argSizeFile.view(), item.argMode.view()}) {
     EXPECT_EQ(kept, std::string(99, 'x'));
   }
 }
@@ -252,8 +251,7 @@ TEST(CleanStart, Messages_go_from_the_record_of_an_item_without_project_object) 
 TEST_F(Initialisation, A_null_project_is_refused_and_the_object_can_be_deleted) {
   plant.select("P-101");
   {
-    const ProbeItem item(0, "first", "OTHER", "", "", "", nullptr, nullptr,
-                         plant.host().simCase());
+    const ProbeItem item(0, "first", "OTHER", "", "", "", nullptr, nullptr, plant.host().simCase());
     expectFailure(item, "Current Project is not valid");
     EXPECT_EQ(item.component, nullptr);
     EXPECT_EQ(item.simObject, nullptr);
@@ -320,7 +318,8 @@ class MissingProjectDatabase : public Initialisation,
 TEST_P(MissingProjectDatabase, Is_reported_by_name) {
   plant.objects().missingDatabases = {GetParam()};
   const auto item = design();
-  expectFailure(*item, std::string("Could not find <") + GetParam() + ">. Please recreate project.");
+  expectFailure(*item,
+                std::string("Could not find <") + GetParam() + ">. Please recreate project.");
   EXPECT_EQ(plant.lastProgress(), "Setting remaining project database.");
   EXPECT_EQ(item->utilFile.view(), "UTILITY");
   EXPECT_FALSE(item->pxpropFile.empty());
@@ -380,8 +379,9 @@ class ItemFault : public testing::Test {
  protected:
   // The object made from an "equipment information" of the test's own.
   std::unique_ptr<ProbeItem> make(const std::string& equipment) {
-    plant.emplace(R"({"items": {"P-101": {}}, "databases": {"VPECOMP": {"equipment information": )" +
-                  equipment + "}}}");
+    plant.emplace(
+        R"({"items": {"P-101": {}}, "databases": {"VPECOMP": {"equipment information": )" +
+        equipment + "}}}");
     return plant->make<ProbeItem>("P-101");
   }
   std::optional<WatchedPlant> plant;

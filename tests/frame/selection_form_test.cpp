@@ -103,8 +103,8 @@ TEST_F(SelectionForm, The_roles_have_their_standard_names) {
 }
 
 TEST_F(SelectionForm, The_databases_of_the_roles_are_not_looked_at) {
-  plant.objects().missingDatabases = {"UTILITY", "DESIGN", "VPEPROJ", "VPEPROC", "PROC", "SIZE",
-                                      "VPECOMP"};
+  plant.objects().missingDatabases = {"UTILITY", "DESIGN", "VPEPROJ", "VPEPROC",
+                                      "PROC",    "SIZE",   "VPECOMP"};
   EXPECT_EQ(select("B1")->isValid, 1);
   EXPECT_TRUE(plant.objects().created.empty());
 }
@@ -169,9 +169,9 @@ struct PremapRow {
 
 TEST_F(SelectionForm, Premapped_items_and_towers_are_told_apart) {
   const auto item = select("B1");
-  const PremapRow rows[] = {{"PM1", 1, 0},      {"pm1", 1, 0},      {"T1-tower", 1, 1},
+  const PremapRow rows[] = {{"PM1", 1, 0},      {"pm1", 1, 0},        {"T1-tower", 1, 1},
                             {"T3-tower", 1, 1}, {"T1-Tower-2", 1, 0}, {"B3-tower", 0, 0},
-                            {"B1", 0, 0},       {"NOWHERE", 0, 0},  {"X-tower", 0, 0},
+                            {"B1", 0, 0},       {"NOWHERE", 0, 0},    {"X-tower", 0, 0},
                             {"", 0, 0}};
   for (const PremapRow& row : rows) {
     EXPECT_EQ(item->IsPremapType(row.name), row.isPremapped) << row.name;

@@ -30,19 +30,19 @@ TEST_P(SlotNames, A_quantity_has_the_slot_of_the_items_category) {
   EXPECT_STREQ(slot, row.slot) << row.quantity << " of " << row.category << ' ' << row.item;
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Duty, SlotNames,
-    testing::Values(SlotRow{"DUTY", "EFU", "BOX", "CpDuty"}, SlotRow{"DUTY", "DTW", "TRAYED", "CpDuty"},
-                    SlotRow{"DUTY", "DRB", "KETTLE", "CpDuty"},
-                    SlotRow{"DUTY", "XRBX", "KETTLE", "CpDuty"},
-                    SlotRow{"DUTY", "DHE", "TEMA EXCH", "DUTY"},
-                    SlotRow{"DUTY", "efu", "BOX", "DUTY"}, SlotRow{"DUTY", "dtw", "TRAYED", "DUTY"}));
+INSTANTIATE_TEST_SUITE_P(Duty, SlotNames,
+                         testing::Values(SlotRow{"DUTY", "EFU", "BOX", "CpDuty"},
+                                         SlotRow{"DUTY", "DTW", "TRAYED", "CpDuty"},
+                                         SlotRow{"DUTY", "DRB", "KETTLE", "CpDuty"},
+                                         SlotRow{"DUTY", "XRBX", "KETTLE", "CpDuty"},
+                                         SlotRow{"DUTY", "DHE", "TEMA EXCH", "DUTY"},
+                                         SlotRow{"DUTY", "efu", "BOX", "DUTY"},
+                                         SlotRow{"DUTY", "dtw", "TRAYED", "DUTY"}));
 
-INSTANTIATE_TEST_SUITE_P(
-    Viscosity, SlotNames,
-    testing::Values(SlotRow{"Viscosity", "EGP", "GEAR", "CpViscosityCS"},
-                    SlotRow{"Viscosity", "DCP", "CENTRIF", "CpFluidViscosity"},
-                    SlotRow{"Viscosity", "egp", "GEAR", "CpFluidViscosity"}));
+INSTANTIATE_TEST_SUITE_P(Viscosity, SlotNames,
+                         testing::Values(SlotRow{"Viscosity", "EGP", "GEAR", "CpViscosityCS"},
+                                         SlotRow{"Viscosity", "DCP", "CENTRIF", "CpFluidViscosity"},
+                                         SlotRow{"Viscosity", "egp", "GEAR", "CpFluidViscosity"}));
 
 INSTANTIATE_TEST_SUITE_P(
     Diameter, SlotNames,

@@ -24,10 +24,10 @@ class WatchedStore : public ForwardingObjectStore {
   std::function<void()> beforeWrite;
   bool runsConnectionService = false;
 
-  std::vector<std::string> created;                  // databases
-  std::vector<std::string> written;                  // slots
-  mutable std::vector<int> connectorDirections;      // asked for
-  std::vector<std::string> disconnectedByService;    // streams
+  std::vector<std::string> created;                // databases
+  std::vector<std::string> written;                // slots
+  mutable std::vector<int> connectorDirections;    // asked for
+  std::vector<std::string> disconnectedByService;  // streams
 
   bool databaseExists(unsigned project, std::string_view database) const override {
     return !isMissing(database) && ForwardingObjectStore::databaseExists(project, database);
@@ -162,7 +162,8 @@ class WatchedHost : public Host {
 /// A test plant on a watched host, attached to the thread for the life of the object.
 class WatchedPlant : public TestPlant {
  public:
-  explicit WatchedPlant(std::string_view json) : TestPlant(json), watched_(host()), scope_(watched_) {}
+  explicit WatchedPlant(std::string_view json)
+      : TestPlant(json), watched_(host()), scope_(watched_) {}
 
   WatchedStore& objects() { return watched_.objects; }
   WatchedUser& screen() { return watched_.screen; }
