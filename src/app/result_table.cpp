@@ -44,16 +44,18 @@ CvdSlot inUnitsOf(const CvdSlot& result, const CvdSlot& published) {
                            result.Units());
 }
 
-std::string shownNumber(double number) {
+// The number of a value, rounded for people; nothing for a text.
+std::string shownNumber(const CvdSlot& value) {
+  if (!value.IsNumber()) return "";
+  const double number = value.Number();
   const double size = std::abs(number);
   if (size != 0.0 && (size < 1e-3 || size >= 1e7)) return fmt::format("{:.4e}", number);
   const int places = size >= 1000.0 ? 0 : size >= 100.0 ? 1 : size >= 10.0 ? 2 : 3;
   return fmt::format("{:.{}f}", number, places);
 }
 
-std::string shown(const CvdSlot& value) {
-  if (value.IsNumber()) return shownNumber(value.Number());
-  std::string text = value.Text();
+std::string unitsOrText(const CvdSlot& value) {
+  std::string text = value.IsNumber() ? value.Units() : value.Text();
   std::replace(text.begin(), text.end(), '\n', ' ');
   return text;
 }
@@ -73,9 +75,9 @@ std::vector<Row> rowsOf(const std::vector<ItemResult>& results, bool withPublish
   for (const ItemResult& result : results) {
     rows.push_back({result.item, result.kind + (result.sized ? "" : ": not sized"), "", ""});
     for (const ResultLine& line : result.lines) {
-      rows.push_back({"", line.slot, shown(line.value), line.value.Units()});
+      rows.push_back({"", line.slot, shownNumber(line.value), unitsOrText(line.value)});
       if (!withPublished) continue;
-      rows.back().push_back(line.published.IsValid() ? shown(line.published) : "");
+      rows.back().push_back(shownNumber(line.published));
       rows.back().push_back(difference(line));
     }
   }
