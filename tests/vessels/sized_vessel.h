@@ -1,0 +1,184 @@
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cmath>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "sizewright/vessels/vessel.h"
+#include "support/item_at_hand.h"
+
+namespace sizewright {
+
+using Texts = std::vector<std::string>;
+
+// The library's power has a constant of ten digits.
+inline constexpr double kPowerTolerance = 1e-9;
+
+inline void expectClose(double value, double expected, double tolerance = kPowerTolerance) {
+  EXPECT_NEAR(value, expected, std::abs(expected) * tolerance);
+}
+
+inline double squareOf(double x) {
+  return x * x;
+}
+inline constexpr double kCirclePi = 3.14159265358979323846;
+inline double cylinderOf(double diameter, double height) {
+  return kCirclePi / 4 * squareOf(diameter) * height;
+}
+
+/// A vessel V-1 of the given category and item from FEED to VAPOR and LIQUID. FEED carries 20,000
+/// CF/H of vapor at 0.5 PCF and 1,200 CF/H of liquid at 50 PCF, which leave apart. No criteria.
+inline PlantJson vesselPlant(const char* category, const char* item) {
+  PlantJson plant = PlantJson::parse(R"({
+    "sizewright": 1, "units": "customary", "simulator": 1,
+    "streams": {
+      "FEED": {"slots": {"VAPOR MASS FLOW": [10000, "LB/H"], "VAPOR MASS DENSITY": [0.5, "PCF"],
+                         "LIQUID MASS FLOW": [60000, "LB/H"],
+                         "LIQUID MASS DENSITY": [50, "PCF"]}},
+      "VAPOR": {"slots": {"VAPOR MASS FLOW": [10000, "LB/H"], "VAPOR MASS DENSITY": [0.5, "PCF"]}},
+      "LIQUID": {"slots": {"LIQUID MASS FLOW": [60000, "LB/H"],
+                           "LIQUID MASS DENSITY": [50, "PCF"]}}
+    },
+    "blocks": {"B1": {"class": 405, "slots": {}}},
+    "items": {
+      "V-1": {"model": "VESSEL", "block": "B1", "inlets": {"INLET": ["FEED"]},
+              "exits": {"VAPOR OUTLET": ["VAPOR"], "LIQUID OUTLET": ["LIQUID"]},
+              "component": {}, "project": {}}
+    },
+    "criteria": {"*": {}}
+  })");
+  plant["items"]["V-1"]["category"] = category;
+  plant["items"]["V-1"]["item"] = item;
+  return plant;
+}
+inline PlantJson verticalDrum() {
+  return vesselPlant("DVT", "CYLINDER");
+}
+inline PlantJson horizontalDrum() {
+  return vesselPlant("DHT", "HORIZ DRUM");
+}
+
+// Changes to a plant under construction. Flows are LB/H, densities PCF.
+inline PlantJson& criteriaOf(PlantJson& plant) {
+  return plant["criteria"]["*"];
+}
+inline PlantJson& recordOf(PlantJson& plant) {
+  return plant["items"]["V-1"]["component"];
+}
+inline PlantJson& projectOf(PlantJson& plant) {
+  return plant["items"]["V-1"]["project"];
+}
+inline void setPhase(PlantJson& plant, const char* stream, const char* phase, double flow,
+                     double density) {
+  PlantJson& slots = plant["streams"][stream]["slots"];
+  slots[std::string(phase) + " MASS FLOW"] = {flow, "LB/H"};
+  slots[std::string(phase) + " MASS DENSITY"] = {density, "PCF"};
+}
+inline void setVapor(PlantJson& plant, double flow, double density) {
+  setPhase(plant, "FEED", "VAPOR", flow, density);
+  setPhase(plant, "VAPOR", "VAPOR", flow, density);
+}
+inline void setLiquid(PlantJson& plant, double flow, double density) {
+  setPhase(plant, "FEED", "LIQUID", flow, density);
+  setPhase(plant, "LIQUID", "LIQUID", flow, density);
+}
+/// Leaves the vessel without liquid: the feed is vapor, and nothing but vapor leaves.
+inline void removeLiquid(PlantJson& plant) {
+  plant["streams"]["FEED"]["slots"].erase("LIQUID MASS FLOW");
+  plant["items"]["V-1"]["exits"].erase("LIQUID OUTLET");
+}
+/// Leaves the vessel without vapor.
+inline void removeVapor(PlantJson& plant) {
+  plant["streams"]["FEED"]["slots"].erase("VAPOR MASS FLOW");
+  plant["items"]["V-1"]["exits"].erase("VAPOR OUTLET");
+}
+/// A second liquid leaves, heavier than the first.
+inline void addHeavyLiquid(PlantJson& plant, double flow, double density) {
+  plant["streams"]["WATER"]["slots"] = PlantJson::object();
+  setPhase(plant, "WATER", "LIQUID", flow, density);
+  plant["items"]["V-1"]["exits"]["HEAVY LIQUID OUTLET"] = PlantJson::array({"WATER"});
+}
+
+/// A vessel that a test can set values on and whose arithmetic it can reach.
+class VesselUnderTest : public CVesObj {
+ public:
+  using CVesObj::CVesObj;
+  using CVesObj::data;
+  using CVesObj::determine_cylinder_capacity;
+  using CVesObj::func_3rd_order_polynomial;
+  using CVesObj::proc_ves_determine_liq_vol;
+  using CVesObj::proc_vs_cal_root_3rd_order_polynoimial_by_mnr;
+  using CVesObj::proc_vs_check_hd_ratio;
+  using CVesObj::spheroid_cal_vol;
+  using CVesObj::st_sp_calculate_sphere_volume;
+};
+
+/// The vessel V-1 of a plant, alive with it.
+struct VesselAtHand : ItemAtHand<VesselUnderTest> {
+  explicit VesselAtHand(const PlantJson& json, int interactive = 0)
+      : ItemAtHand(json, "V-1", interactive) {}
+
+  VesselData& data() { return object->data(); }
+  [[nodiscard]] Texts warnings() const { return textsOf(object->Warnings(), 0); }
+  [[nodiscard]] Texts errors() const { return textsOf(object->Errors(), 0); }
+  /// The trace of the sizing, without the three lines that tell how the liquids are assigned.
+  [[nodiscard]] Texts calculations() const { return textsOf(object->Calculations(), 3); }
+  /// Warnings but for the last two lines, which compare the slenderness with the criterion.
+  [[nodiscard]] Texts warningsBeforeRatio() const {
+    Texts texts = warnings();
+    texts.resize(texts.size() < 2 ? 0 : texts.size() - 2);
+    return texts;
+  }
+  [[nodiscard]] bool warned(std::string_view text) const {
+    return holdsLines(object->Warnings(), text);
+  }
+  [[nodiscard]] bool told(std::string_view text) const {
+    return holdsLines(object->Calculations(), text);
+  }
+  /// Times that the trace has a line.
+  [[nodiscard]] long timesTold(std::string_view line) const {
+    const Texts texts = calculations();
+    return std::count(texts.begin(), texts.end(), line);
+  }
+  /// Message boxes shown: text and flags.
+  std::vector<std::pair<std::string, int>> boxes() {
+    std::vector<std::pair<std::string, int>> shown;
+    for (const MessageLog::Dialog& dialog : plant.host().log().dialogs()) {
+      if (!dialog.isBox) continue;
+      EXPECT_EQ(dialog.title, "Sizing");
+      shown.emplace_back(dialog.text, dialog.flags);
+    }
+    return shown;
+  }
+  /// Plain texts shown.
+  Texts prints() {
+    Texts shown;
+    for (const MessageLog::Dialog& dialog : plant.host().log().dialogs()) {
+      if (!dialog.isBox) shown.push_back(dialog.text);
+    }
+    return shown;
+  }
+  /// Progress of `Size` once the streams are read.
+  Progress sizingProgress() {
+    Progress lines = progressOf([](CVesObj& vessel) { vessel.Size(); });
+    const std::pair<int, std::string> read = {50,
+                                              "Completed obtaining information from the "
+                                              "simulator."};
+    const auto start = std::find(lines.begin(), lines.end(), read);
+    EXPECT_NE(start, lines.end());
+    return start == lines.end() ? Progress{} : Progress(start + 1, lines.end());
+  }
+
+ private:
+  static Texts textsOf(const CStrList& list, int first) {
+    Texts texts;
+    for (int i = first; i < list.GetLength(); ++i) texts.push_back(list.GetTextAt(i));
+    return texts;
+  }
+};
+
+}  // namespace sizewright
