@@ -20,7 +20,7 @@ TEST(Boot, Holds_the_heavy_liquid_of_the_residence_time_at_its_velocity) {
   VesselAtHand drum(drumWithWater(1000));
   EXPECT_EQ(drum->Size(), 1);
   const double diameter = std::sqrt(1000 / 6.0 / kBootVelocity * 4 / kCirclePi);  // 2.66
-  EXPECT_EQ(drum.values().boot_dia, std::ceil(diameter * 2) / 2);
+  EXPECT_EQ(drum.values().boot_dia, roundedUp(diameter));
   EXPECT_EQ(drum.values().boot_dia, 3);
   EXPECT_EQ(drum.values().boot_ht, 30);  // the velocity times an hour
   EXPECT_EQ(drum.timesTold(kRounded), 2);

@@ -190,9 +190,9 @@ TEST(HorizontalDrum, Is_the_larger_the_more_of_it_is_vapor) {
     VesselAtHand drum(plant);
     EXPECT_EQ(drum->Size(), 1);
     const double diameter = liquidDiameter(kHeld / (1 - share), kRatio);
-    EXPECT_EQ(drum.values().ves_dia, std::ceil(diameter * 2) / 2) << share;
+    EXPECT_EQ(drum.values().ves_dia, roundedUp(diameter)) << share;
     const double length = kHeld / (1 - share) / cylinderOf(diameter, 1);
-    EXPECT_EQ(drum.values().ves_height, std::ceil(length * 2) / 2) << share;
+    EXPECT_EQ(drum.values().ves_height, roundedUp(length)) << share;
   }
 }
 
@@ -278,7 +278,7 @@ TEST(HorizontalDrum, Of_a_user_capacity_has_its_dimensions_from_that) {
   EXPECT_EQ(drum.timesTold(kNoLiquid), 0);
   EXPECT_EQ(drum.values().ves_dia, 5.5);
   const double length = 400 / cylinderOf(diameter, 1);  // 17.2
-  EXPECT_EQ(drum.values().ves_height, std::ceil(length * 2) / 2);
+  EXPECT_EQ(drum.values().ves_height, roundedUp(length));
   expectClose(drum.values().capacity, cylinderOf(5.5, drum.values().ves_height));
 }
 

@@ -22,6 +22,22 @@ inline void expectClose(double value, double expected, double tolerance = kPower
   EXPECT_NEAR(value, expected, std::abs(expected) * tolerance);
 }
 
+// Of streams at 77 DEG F and 15 PSI the bundled rules make 50 degrees and 25 PSI more.
+inline constexpr double kAtmosphere = 14.695948775513;  // PSI
+inline constexpr double kDesignTemperature = 127;       // DEG F
+inline constexpr double kDesignGauge = 15 - kAtmosphere + 25;
+inline constexpr const char* kVacuum = "CpVacuumDesignGaugePressure";
+
+inline constexpr const char* kNoCapacity =
+    "Vessel capacity cannot be calculated. Please check stream flows.";
+inline constexpr const char* kNoDiameter =
+    "Vessel diameter cannot be calculated. Please check stream flows.";
+inline constexpr const char* kNoHeight =
+    "Vessel height cannot be calculated. Please check stream flows.";
+
+inline double roundedUp(double feet) {
+  return std::ceil(feet * 2) / 2;
+}
 inline double squareOf(double x) {
   return x * x;
 }
@@ -96,6 +112,17 @@ inline void removeVapor(PlantJson& plant) {
   plant["streams"]["FEED"]["slots"].erase("VAPOR MASS FLOW");
   plant["items"]["V-1"]["exits"].erase("VAPOR OUTLET");
 }
+inline void setPressure(PlantJson& plant, double pressure) {
+  for (const char* stream : {"FEED", "VAPOR", "LIQUID"}) {
+    plant["streams"][stream]["slots"]["PRESSURE"] = {pressure, "PSI"};
+  }
+}
+/// The project forbids resizing and gives 50 PSI and 300 DEG F.
+inline void setUserDesign(PlantJson& plant) {
+  projectOf(plant) = {{"CpAllowResize", "No"},
+                      {"CpDesignGaugePressure", {50, "PSI"}},
+                      {"CpDesignTemperature", {300, "DEG F"}}};
+}
 /// A second liquid leaves, heavier than the first.
 inline void addHeavyLiquid(PlantJson& plant, double flow, double density) {
   plant["streams"]["WATER"]["slots"] = PlantJson::object();
@@ -161,6 +188,13 @@ struct VesselAtHand : ItemAtHand<VesselUnderTest> {
       if (!dialog.isBox) shown.push_back(dialog.text);
     }
     return shown;
+  }
+  /// `Size` refuses with this one error, which is shown as a plain text when dialogs are on.
+  void expectRefusal(const char* text, bool shows) {
+    EXPECT_EQ(object->Size(), 0) << text;
+    EXPECT_EQ(errors(), Texts{text});
+    EXPECT_EQ(prints(), shows ? Texts{text} : Texts{});
+    EXPECT_TRUE(boxes().empty());
   }
   /// Progress of `Size` once the streams are read.
   Progress sizingProgress() {

@@ -10,17 +10,8 @@ using Plant = PlantJson;
 constexpr double kHeld = 864000;  // CF: 1,200 CF/H for thirty days
 constexpr double kTank = 960000;  // CF, a tenth of it free
 
-constexpr const char* kNoCapacity =
-    "Vessel capacity cannot be calculated. Please check stream flows.";
-constexpr const char* kNoDiameter =
-    "Vessel diameter cannot be calculated. Please check stream flows.";
-constexpr const char* kNoHeight = "Vessel height cannot be calculated. Please check stream flows.";
-
 Plant storagePlant(const char* item = "STORAGE") {
   return vesselPlant("DVT", item);
-}
-double roundedUp(double feet) {
-  return std::ceil(feet * 2) / 2;
 }
 double sphereOf(double diameter) {
   return kCirclePi / 6 * diameter * diameter * diameter;
@@ -28,15 +19,11 @@ double sphereOf(double diameter) {
 double spheroidOf(double diameter, double height) {
   return kCirclePi / 6 * diameter * height * height;
 }
-// Refusals of a road: the text in the errors and, interactively, on the screen.
 void expectRefusal(const Plant& plant, const char* text, const VesselData& given) {
   for (const int interactive : {1, 0}) {
     VesselAtHand tank(plant, interactive);
     tank.data() = given;
-    EXPECT_EQ(tank->Size(), 0) << text;
-    EXPECT_EQ(tank.errors(), Texts{text});
-    EXPECT_EQ(tank.prints(), interactive != 0 ? Texts{text} : Texts{});
-    EXPECT_TRUE(tank.boxes().empty());
+    tank.expectRefusal(text, interactive != 0);
   }
 }
 

@@ -130,7 +130,7 @@ TEST(VerticalDrum, Takes_its_diameter_from_the_vapor_velocity_when_that_needs_mo
   drum->Size();
   const double velocity = kKv * std::sqrt(99) * 3600;
   const double diameter = std::sqrt(100 * kVapor / velocity * 4 / kCirclePi);
-  EXPECT_EQ(drum.values().ves_dia, std::ceil(diameter * 2) / 2);
+  EXPECT_EQ(drum.values().ves_dia, roundedUp(diameter));
   EXPECT_TRUE(
       drum.told(formatText("ves_dia(based on vapor flow) = %5.2f ft; ves_dia(based on L/D "
                            "and Liq.flow) =  2.29 ft; Max chosen.",
@@ -181,7 +181,7 @@ TEST(VerticalDrum, Uses_the_inlet_liquid_when_no_liquid_leaves) {
   drum.data().ves_dia = 5;
   drum->Size();
   const double height = kHeld / cylinderOf(5, 1) + 2.5;
-  EXPECT_EQ(drum.values().ves_height, std::ceil(height * 2) / 2);
+  EXPECT_EQ(drum.values().ves_height, roundedUp(height));
   EXPECT_EQ(drum.timesTold(kNoLiquid), 0);
 }
 
