@@ -370,7 +370,7 @@ TEST(DrumDiameter, Is_at_least_the_one_of_the_criteria) {
     const auto boxes = drum.boxes();
     EXPECT_EQ(std::count(boxes.begin(), boxes.end(), std::pair<std::string, int>{text, 48}),
               row.raised ? 1 : 0);
-    EXPECT_EQ(drum.values().ves_dia, std::ceil(row.minimum * 2) / 2);
+    EXPECT_EQ(drum.values().ves_dia, roundedUp(row.minimum));
   }
 }
 

@@ -315,7 +315,7 @@ TEST(HorizontalDrum, Guards_against_a_ratio_and_a_residence_time_that_are_not_po
   EXPECT_EQ(drum->Size(), 1);
   EXPECT_EQ(drum.values().res_time, 5);
   EXPECT_EQ(drum.values().ht_dia_ratio, 3);
-  EXPECT_EQ(drum.values().ves_dia, std::ceil(liquidDiameter(kFull / 2, kRatio) * 2) / 2);
+  EXPECT_EQ(drum.values().ves_dia, roundedUp(liquidDiameter(kFull / 2, kRatio)));
 }
 
 TEST(HorizontalDrum, Without_a_diameter_has_no_length_and_is_not_refused) {

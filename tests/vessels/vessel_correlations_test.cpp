@@ -257,6 +257,35 @@ TEST(CubicRoots, Outside_the_bounds_or_on_one_of_them_are_not_found) {
   EXPECT_NEAR(findRoot({1, 0, 0, -125000 * (1 - 1e-12)}, 0, 50).x, 50, kStep);
 }
 
+// The bracket keeps the cubic negative at one end and positive at the other: a falling root between
+// two rising ones is never taken.
+TEST(CubicRoots, Of_three_in_a_bracket_are_found_where_the_cubic_rises_through_it) {
+  std::mt19937_64 random(271828);
+  std::uniform_real_distribution<double> places(-40, 40);
+  int tried = 0;
+  while (tried < 10000) {
+    std::array<double, 3> r = {places(random), places(random), places(random)};
+    std::sort(r.begin(), r.end());
+    if (r[1] - r[0] < 1 || r[2] - r[1] < 1) continue;
+    ++tried;
+    const Cubic cubic = {1, -(r[0] + r[1] + r[2]), r[0] * r[1] + r[0] * r[2] + r[1] * r[2],
+                         -r[0] * r[1] * r[2]};
+    const CubicRoot root = findRoot(cubic, r[0] - 20 - places(random) / 4, r[2] + 30);
+    EXPECT_EQ(root.outcome, CubicRoot::Outcome::found);
+    const double nearest = root.x < r[1] ? r[0] : r[2];
+    EXPECT_NEAR(root.x, nearest, 1.01 * kStep) << r[0] << ' ' << r[1] << ' ' << r[2];
+  }
+}
+
+// Their last digit is greater than the step at which the search stops otherwise.
+TEST(CubicRoots, Of_great_size_stop_when_a_step_changes_nothing) {
+  for (const double size : {114206189822447.48, 22014004458747.863, 59e12, 117e12, 234e12}) {
+    const CubicRoot root = findRoot({1, 0, 0, -(size * size * size)}, 0, 1e16);
+    EXPECT_EQ(root.outcome, CubicRoot::Outcome::found) << size;
+    EXPECT_NEAR(root.x, size, size * 1e-15);
+  }
+}
+
 TEST(CubicRoots, That_100_rounds_do_not_reach_leave_the_last_estimate) {
   // 100 halvings of 1e60 leave a bracket of more than 1e29
   const CubicRoot root = findRoot({1, 0, 0, -8}, 0, 1e60);
