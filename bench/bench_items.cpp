@@ -15,11 +15,25 @@ struct Model {
   const char* name;
   const char* category;
   const char* itemCode;
-  const char* component;  // slots of its record, as JSON
+  const char* member = "";  // further member of the item, as JSON
 };
 
 constexpr Model kModels[] = {
-    {"Pump", "DCP", "CENTRIF", "{}"},
+    {"Pump", "DCP", "CENTRIF"},
+    {"VerticalDrum", "DVT", "CYLINDER"},
+    {"DrumWithBoot", "DHT", "HORIZ DRUM"},
+    {"Tank", "DVT", "STORAGE"},
+    {"Compressor", "DGC", "CENTRIF"},
+    {"Turbine", "ETUR", "GAS"},
+    {"CoolingTower", "ECTWR", "COOLING", R"("class": "CCoolTwObj", )"},
+    {"PlainItem", "C", "PLAIN"},
+    {"Crusher", "ECR", "CONE"},
+    {"Crystallizer", "ECRY", "BATCH VAC"},
+    {"DustCollector", "EDC", "CYCLONE"},
+    {"Dryer", "ERD", "DIRECT"},
+    {"Filter", "EF", "ROTY DRUM"},
+    {"Centrifuge", "ECT", "SOLID BOWL"},
+    {"Screen", "EVS", "RECTANGLE"},
 };
 
 // Fresh items, so that none finds the results of a run before.
@@ -38,15 +52,15 @@ std::unique_ptr<Plant> plantOf(const Model& model) {
       "VAPOR MASS DENSITY": [0.8, "PCF"]}},
     "liquid": {"slots": {"TEMPERATURE": [150, "DEG F"], "PRESSURE": [150, "PSI"],
       "TOTAL MASS FLOW": [15000, "LB/H"], "LIQUID MASS FLOW": [12000, "LB/H"],
-      "SOLID MASS FLOW": [3000, "LB/H"], "LIQUID MASS DENSITY": [50, "PCF"]}}},
+      "SOLID MASS FLOW": [3000, "LB/H"], "LIQUID MASS DENSITY": [50, "PCF"]}},
+    "heavy": {"slots": {"LIQUID MASS FLOW": [2000, "LB/H"], "LIQUID MASS DENSITY": [65, "PCF"]}}},
   "blocks": {"B1": {"slots": {"ITEM MODEL": "BLOCK"}}}, "items": {)";
   for (int i = 0; i < kItems; ++i) {
-    text +=
-        (i > 0 ? ", " : "") + ("\"X" + std::to_string(i)) + R"(": {"category": ")" +
-        model.category + R"(", "item": ")" + model.itemCode +
-        R"(", "block": "B1", "inlets": {"INLET": ["feed"]}, "exits": {"OUTLET": ["gas", "liquid"]},
-            "component": )" +
-        model.component + "}";
+    text += (i > 0 ? ", " : "") + ("\"X" + std::to_string(i)) + R"(": {"category": ")" +
+            model.category + R"(", "item": ")" + model.itemCode + R"(", )" + model.member +
+            R"("block": "B1", "inlets": {"INLET": ["feed"], "STEAM SUPPLY": ["feed"]},
+            "exits": {"OUTLET": ["gas"], "VAPOR OUTLET": ["gas"], "LIQUID OUTLET": ["liquid"],
+            "HEAVY LIQUID OUTLET": ["heavy"], "SOLIDS OUTLET": ["liquid"]}})";
   }
   return readPlant(text + "}}", model.name, equipmentClassNames());
 }

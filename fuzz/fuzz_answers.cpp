@@ -18,8 +18,40 @@ struct Model {
 };
 
 constexpr Model kModels[] = {
-    {"CPumpObj", "DCP", "CENTRIF"},
-    {"CPumpObj", "DCP", "HD STOCK"},
+    {"CPumpObj", "DCP", "CENTRIF"},     {"CPumpObj", "DCP", "HD STOCK"},
+    {"CPumpObj", "EGP", "GEAR"},        {"CCompObj", "DGC", "CENTRIF"},
+    {"CCompObj", "EAC", "CENTRIF"},     {"CCompObj", "DTUR", "TURBOEXP"},
+    {"CCompObj", "EFN", "CENTRIF"},     {"CTurbObj", "ETUR", "GAS"},
+    {"CCoolTwObj", "ECTWR", "COOLING"}, {"CQObj", "C", "PLAIN"},
+    {"CVesObj", "DVT", "CYLINDER"},     {"CVesObj", "DHT", "HORIZ DRUM"},
+    {"CVesObj", "EVT", "CYLINDER"},     {"CVesObj", "DVT", "STORAGE"},
+    {"CVesObj", "DVT", "GAS HOLDER"},   {"CVesObj", "DVT", "LIVE BTM"},
+    {"CVesObj", "DVT", "SPHERE"},       {"CVesObj", "DVT", "SPHEROID"},
+    {"CVesObj", "DAT", "OFF MACH"},     {"CVesObj", "EAT", "FLOAT CELL"},
+    {"CVesObj", "DAT", "COND CELL"},    {"CCrshObj", "ECR", "CONE"},
+    {"CCrshObj", "ECR", "JAW"},         {"CCrshObj", "EM", "BALL MILL"},
+    {"CCryObj", "ECRY", "BATCH VAC"},   {"CCryObj", "ECRY", "MECHANICAL"},
+    {"CCryObj", "ECRY", "OSLO"},        {"CDcObj", "EDC", "CYCLONE"},
+    {"CDcObj", "EDC", "MULT CYCLO"},    {"CDcObj", "EDC", "CLOTH BAY"},
+    {"CDcObj", "EDC", "PULSE SHKR"},    {"CDcObj", "EDC", "ELC H VOLT"},
+    {"CDcObj", "EDC", "ELC L VOLT"},    {"CDcObj", "EDC", "WASHERS"},
+    {"CDcObj", "ESE", "OIL WATER"},     {"CDcObj", "ESE", "PULP STOCK"},
+    {"CDcObj", "ESE", "WATER CYCL"},    {"CDryObj", "ED", "PAN"},
+    {"CDryObj", "ED", "ATMOS TRAY"},    {"CDryObj", "ETDS", "TUNNEL"},
+    {"CDryObj", "EDD", "SINGLE ATM"},   {"CDryObj", "EDD", "DOUBL ATM"},
+    {"CDryObj", "ERD", "DIRECT"},       {"CDryObj", "ERD", "JAC VACUUM"},
+    {"CDryObj", "EAD", "AIR"},          {"CDryObj", "ED", "SPRAY"},
+    {"CDryObj", "ED", "VACUUM"},        {"CFltObj", "ECT", "TUBULAR"},
+    {"CFltObj", "ECT", "DISK"},         {"CFltObj", "ECT", "BATCH TOP"},
+    {"CFltObj", "ECT", "INVERTING"},    {"CFltObj", "ECT", "TOP UNLOAD"},
+    {"CFltObj", "ECT", "SOLID BOWL"},   {"CFltObj", "ECT", "SCREEN BWL"},
+    {"CFltObj", "ECT", "RECIP CONV"},   {"CFltObj", "ECT", "SCROLL CON"},
+    {"CFltObj", "ECT", "VIBRATORY"},    {"CFltObj", "EF", "CARTRIDGE"},
+    {"CFltObj", "EF", "TUBULAR"},       {"CFltObj", "EF", "PLATE FRAM"},
+    {"CFltObj", "EF", "LEAF DRY"},      {"CFltObj", "EF", "ROTY DRUM"},
+    {"CFltObj", "EF", "SEWAGE"},        {"CFltObj", "EF", "SPARKLER"},
+    {"CFltObj", "EF", "OTHER"},         {"CScObj", "EVS", "CIRCULAR"},
+    {"CScObj", "EVS", "RECTANGLE"},     {"CScObj", "EVS", "HIGH CAP"},
 };
 
 std::string plantOf(const Model& model, Bytes& bytes) {
@@ -47,8 +79,11 @@ std::string plantOf(const Model& model, Bytes& bytes) {
   text += model.category;
   text += R"(", "item": ")";
   text += model.itemCode;
-  text += R"(", "block": "B1", "inlets": {"INLET": ["S1"]}, "exits": {)";
-  text += shape >= 128 ? R"("OUTLET": ["S2"], "DRAIN": ["S3"])" : R"("OUTLET": ["S2", "S3"])";
+  text += R"(", "block": "B1", "inlets": {"INLET": ["S1"], "STEAM SUPPLY": ["S1"]}, "exits": {)";
+  text +=
+      shape >= 128
+          ? R"("OUTLET": ["S2"], "DRAIN": ["S3"], "SOLIDS OUTLET": ["S1"], "VAPOR OUTLET": ["S2"])"
+          : R"("OUTLET": ["S2", "S3"])";
   text += R"(}, "project": )";
   text += shape % 64 == 7 ? "null" : "{}";
   return text + "}}}";

@@ -3,10 +3,18 @@
 #include <algorithm>
 #include <array>
 
+#include "sizewright/fired/cooling_tower.h"
 #include "sizewright/host/text.h"
+#include "sizewright/rotating/compressor.h"
 #include "sizewright/rotating/pump.h"
+#include "sizewright/rotating/turbine.h"
+#include "sizewright/separation/crusher.h"
+#include "sizewright/separation/crystallizer.h"
 #include "sizewright/separation/dryer.h"
 #include "sizewright/separation/dust_collector.h"
+#include "sizewright/separation/filter.h"
+#include "sizewright/separation/plain_item.h"
+#include "sizewright/separation/screen.h"
 #include "sizewright/vessels/vessel.h"
 
 namespace sizewright {
@@ -37,9 +45,17 @@ constexpr EquipmentClass entry(std::string_view name) {
 
 constexpr auto kAvailable = std::to_array<EquipmentClass>({
     entry<CPumpObj>("CPumpObj"),
+    entry<CCompObj>("CCompObj"),
+    entry<CTurbObj>("CTurbObj"),
     entry<CVesObj>("CVesObj"),
+    entry<CCoolTwObj>("CCoolTwObj"),
+    entry<CCrshObj>("CCrshObj"),
+    entry<CCryObj>("CCryObj"),
     entry<CDcObj>("CDcObj"),
     entry<CDryObj>("CDryObj"),
+    entry<CFltObj>("CFltObj"),
+    entry<CScObj>("CScObj"),
+    entry<CQObj>("CQObj"),
 });
 
 struct FamilyRow {

@@ -33,6 +33,13 @@ class FormlessItem : public SizingItem<Data> {
     return this->hasBothStreams();
   }
 
+  /// Rewrites the ports of both lists under one tag each. Returns 1.
+  int rewriteBothPorts(std::string_view inletTag, std::string_view exitTag) {
+    this->rewritePorts(kInlet, this->inlets(), inletTag, "_in_");
+    this->rewritePorts(kExit, this->exits(), exitTag, "_ex_");
+    return 1;
+  }
+
   /// Progress of a design report around the writing of the results.
   template <class Write>
   static void report(Write write) {

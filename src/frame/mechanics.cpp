@@ -128,6 +128,15 @@ void CSizeEquip::rewriteExitPorts(void* list, std::span<const PortByFlow> rows) 
   }
 }
 
+void CSizeEquip::rewriteGasExitPorts(void* list) {
+  if (list == nullptr) return;
+  lib_fun_delete_old_ports(vpeCompFile, componentName, kExit);
+  for (auto& [name, stream] : openStreams(list)) {
+    const bool vapor = readOr(&stream, "VAPOR MASS FLOW", "LB/H", 0.0) > 0.0;
+    lib_func_append_ports(name, vapor ? "OUTLET" : "DRAIN", "_ex_", kExit);
+  }
+}
+
 void CSizeEquip::showStream(std::string_view label, void* list, const char* dialog, CStrList& names,
                             CStrList& values) const {
   if (list2_length(list) == 0) return;

@@ -359,6 +359,9 @@ class CSizeEquip {
   void rewritePorts(Direction direction, void* list, std::string_view tag, std::string_view prefix);
   /// The same for exits, each under the tag of the first row whose flow it carries, or "OUTLET".
   void rewriteExitPorts(void* list, std::span<const PortByFlow> rows);
+  /// The same for the exits of a gas machine: under "OUTLET" with vapor and under "DRAIN" without;
+  /// a stream that cannot be opened gets no port.
+  void rewriteGasExitPorts(void* list);
 
   /// Adds the first stream of a list to a form. Where there are several, that of the greatest mass
   /// flow takes the first place, and the user is told by `dialog`, a format for its name.

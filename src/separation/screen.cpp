@@ -125,13 +125,13 @@ double screenDiameter(double area) {
 }
 
 void setScreenSides(double area, double& length, double& width) {
-  if (area > 0.0) {
-    if (!(length > 0.0) && !(width > 0.0)) width = area <= kNarrowUpTo ? kNarrow : kWide;
-    if (length > 0.0) {
-      width = area / length;
-    } else {
-      length = area / width;
-    }
+  if (length > 0.0) {
+    width = area / length;
+  } else if (width > 0.0) {
+    length = area / width;
+  } else if (area > 0.0) {
+    width = area <= kNarrowUpTo ? kNarrow : kWide;
+    length = area / width;
   }
   length = std::max(length, kLeastLength);
   width = std::max(width, kLeastWidth);

@@ -8,7 +8,7 @@ using Plant = PlantJson;
 constexpr double kHeld = 200;  // CF of liquid in ten minutes
 
 Plant mixerPlant(const char* item = "MIXER", const char* category = "DAT") {
-  return vesselPlant(category, item);
+  return sizingPlant(category, item);
 }
 double diameterOf(double capacity, double ratio) {
   return std::pow(capacity * 4 / (ratio * kCirclePi), 0.33);
@@ -19,7 +19,7 @@ double diameterOf(double capacity, double ratio) {
 TEST(AgitatedVessel, Holds_the_residence_time_below_a_foot_of_vapor) {
   for (const char* category : {"DAT", "EAT", "dat"}) {
     for (const char* item : {"MIXER", "SPHERE", "STORAGE"}) {  // the category decides
-      VesselAtHand vessel(mixerPlant(item, category));
+      SizedVessel vessel(mixerPlant(item, category));
       EXPECT_EQ(vessel->Size(), 1);
       const double diameter = diameterOf(kHeld, 3);  // 4.33
       EXPECT_EQ(vessel.values().ves_dia, 4.5) << category << ' ' << item;
@@ -34,8 +34,8 @@ TEST(AgitatedVessel, Holds_the_residence_time_below_a_foot_of_vapor) {
 }
 
 TEST(AgitatedVessel, Reports_its_progress) {
-  VesselAtHand vessel(mixerPlant());
-  EXPECT_EQ(vessel.sizingProgress(), (VesselAtHand::Progress{
+  SizedVessel vessel(mixerPlant());
+  EXPECT_EQ(vessel.sizingProgress(), (SizedVessel::Progress{
                                          {55, "Obtaining agitator information."},
                                          {60, "Obtained agitator information."},
                                          {61, "Beginning vessel sizing."},
@@ -54,7 +54,7 @@ TEST(AgitatedVessel, Follows_the_criteria) {
   criteriaOf(plant) = {{"Process Vessel Height to Diameter Ratio", 1.2},
                        {"Residence Time", {30, "MINUTE"}},
                        {"Minimum disengagement height", {2.2, "FEET"}}};
-  VesselAtHand vessel(plant);
+  SizedVessel vessel(plant);
   EXPECT_EQ(vessel->Size(), 1);
   const double diameter = diameterOf(3 * kHeld, 1.2);
   EXPECT_EQ(vessel.values().ves_dia, roundedUp(diameter));
@@ -68,8 +68,8 @@ TEST(AgitatedVessel, Holds_the_greater_of_what_comes_and_what_leaves) {
   };
   for (const Row& row : {Row{600, 1200}, Row{1200, 1200}, Row{3000, 3000}}) {
     Plant plant = mixerPlant();
-    setPhase(plant, "LIQUID", "LIQUID", row.leaves * 50, 50);
-    VesselAtHand vessel(plant);
+    setPhase(plant, "L", "LIQUID", row.leaves * 50, 50);
+    SizedVessel vessel(plant);
     vessel.data().ves_dia = 6;
     EXPECT_EQ(vessel->Size(), 1);
     expectClose(vessel.values().ves_height, row.counts / 6 / cylinderOf(6, 1) + 1);
@@ -77,7 +77,7 @@ TEST(AgitatedVessel, Holds_the_greater_of_what_comes_and_what_leaves) {
 }
 
 TEST(AgitatedVessel, Of_a_user_height_has_neither_vapor_space_nor_rounding) {
-  VesselAtHand vessel(mixerPlant());
+  SizedVessel vessel(mixerPlant());
   vessel.data().ves_height = 10.3;
   EXPECT_EQ(vessel->Size(), 1);
   EXPECT_EQ(vessel.values().ves_height, 10.3);
@@ -90,7 +90,7 @@ TEST(AgitatedVessel, Of_a_user_height_has_neither_vapor_space_nor_rounding) {
 }
 
 TEST(AgitatedVessel, Of_a_user_diameter_has_the_vapor_space_but_no_rounding) {
-  VesselAtHand vessel(mixerPlant());
+  SizedVessel vessel(mixerPlant());
   vessel.data().ves_dia = 5.3;
   EXPECT_EQ(vessel->Size(), 1);
   EXPECT_EQ(vessel.values().ves_dia, 5.3);
@@ -100,7 +100,7 @@ TEST(AgitatedVessel, Of_a_user_diameter_has_the_vapor_space_but_no_rounding) {
 }
 
 TEST(AgitatedVessel, Replaces_a_user_capacity_by_the_volume_of_its_dimensions) {
-  VesselAtHand vessel(mixerPlant());
+  SizedVessel vessel(mixerPlant());
   vessel.data().capacity = 400;
   EXPECT_EQ(vessel->Size(), 1);
   const double diameter = diameterOf(400, 3);  // 5.44
@@ -108,7 +108,7 @@ TEST(AgitatedVessel, Replaces_a_user_capacity_by_the_volume_of_its_dimensions) {
   EXPECT_EQ(vessel.values().ves_height, roundedUp(400 / cylinderOf(diameter, 1) + 1));
   expectClose(vessel.values().capacity, cylinderOf(5.5, vessel.values().ves_height));
 
-  VesselAtHand given(mixerPlant());
+  SizedVessel given(mixerPlant());
   given.data().capacity = 400;
   given.data().ves_dia = 6.1;
   given.data().ves_height = 9.7;
@@ -129,7 +129,7 @@ TEST(AgitatedVessel, Is_refused_without_a_volume_a_diameter_or_a_height) {
   for (const Row& row : {Row{dry, 0, kNoCapacity}, Row{withoutRatio, 0, kNoDiameter},
                          Row{mixerPlant(), 1e200, kNoHeight}}) {
     for (const int interactive : {1, 0}) {
-      VesselAtHand vessel(row.plant, interactive);
+      SizedVessel vessel(row.plant, interactive);
       vessel.data().ves_dia = row.diameter;
       vessel.expectRefusal(row.error, interactive != 0);
     }
@@ -138,8 +138,8 @@ TEST(AgitatedVessel, Is_refused_without_a_volume_a_diameter_or_a_height) {
 
 // --- Results ------------------------------------------------------------------------------------
 
-struct KnownMixer : VesselAtHand {
-  explicit KnownMixer(const Plant& json) : VesselAtHand(json) {
+struct KnownMixer : SizedVessel {
+  explicit KnownMixer(const Plant& json) : SizedVessel(json) {
     data().ves_dia = 10;
     data().ves_height = 20;
     EXPECT_EQ(object->Size(), 1);
@@ -169,7 +169,7 @@ TEST(AgitatedResults, Hold_criteria_dimensions_and_volume) {
 }
 
 TEST(AgitatedResults, Leave_out_what_is_not_positive) {
-  VesselAtHand vessel(mixerPlant());
+  SizedVessel vessel(mixerPlant());
   vessel.data().ves_dia = -1;
   vessel->SaveParameters();
   for (const char* slot : {"Residence Time", "Minimum disengagement height", "CpVesselDiameter",
@@ -236,7 +236,7 @@ TEST(Cells, Hold_at_most_1500_CF_each) {
            CellRow{15e6, 10000, 1500},
        }) {
     for (const bool flotation : {true, false}) {
-      VesselAtHand vessel(mixerPlant(flotation ? "FLOAT CELL" : "COND CELL"));
+      SizedVessel vessel(mixerPlant(flotation ? "FLOAT CELL" : "COND CELL"));
       EXPECT_EQ(vessel->Size(), 1);
       vessel.data().capacity = row.capacity;
       vessel->SaveParameters();
@@ -253,7 +253,7 @@ TEST(Cells, Hold_at_most_1500_CF_each) {
 
 TEST(Cells, Have_no_dimensions_nor_a_total_volume) {
   for (const char* item : {"FLOAT CELL", "COND CELL", " float cell "}) {
-    VesselAtHand vessel(mixerPlant(item));
+    SizedVessel vessel(mixerPlant(item));
     EXPECT_EQ(vessel->Size(), 1);
     vessel->Commit();
     for (const char* slot :
@@ -269,7 +269,7 @@ TEST(Cells, Share_the_volume_that_sizing_found) {
   Plant plant = mixerPlant("FLOAT CELL");
   recordOf(plant)["CpVesselDiameter"] = Plant::array({10, "FEET"});
   recordOf(plant)["CpTangentTangentHeight"] = Plant::array({40, "FEET"});
-  VesselAtHand vessel(plant);
+  SizedVessel vessel(plant);
   vessel->GetLastInfo();
   EXPECT_EQ(vessel->Size(), 1);
   vessel->Commit();
@@ -280,7 +280,7 @@ TEST(Cells, Share_the_volume_that_sizing_found) {
 TEST(Cells, Of_a_metric_project_are_in_cubic_meters) {
   Plant plant = mixerPlant("COND CELL");
   plant["units"] = "metric";
-  VesselAtHand vessel(plant);
+  SizedVessel vessel(plant);
   EXPECT_EQ(vessel->Size(), 1);
   vessel.data().capacity = 1501;
   vessel->SaveParameters();

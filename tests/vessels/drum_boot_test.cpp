@@ -17,7 +17,7 @@ Plant drumWithWater(double flow) {
 }
 
 TEST(Boot, Holds_the_heavy_liquid_of_the_residence_time_at_its_velocity) {
-  VesselAtHand drum(drumWithWater(1000));
+  SizedVessel drum(drumWithWater(1000));
   EXPECT_EQ(drum->Size(), 1);
   const double diameter = std::sqrt(1000 / 6.0 / kBootVelocity * 4 / kCirclePi);  // 2.66
   EXPECT_EQ(drum.values().boot_dia, roundedUp(diameter));
@@ -28,9 +28,9 @@ TEST(Boot, Holds_the_heavy_liquid_of_the_residence_time_at_its_velocity) {
 }
 
 TEST(Boot, Reports_its_progress) {
-  VesselAtHand drum(drumWithWater(1000));
+  SizedVessel drum(drumWithWater(1000));
   const auto lines = drum.sizingProgress();
-  const auto expected = VesselAtHand::Progress{
+  const auto expected = SizedVessel::Progress{
       {66, "Completed sizing of main vessel."},
       {67, "Checking for bootleg."},
       {70, "Checking design criteria file for bootleg sizing parameters."},
@@ -48,7 +48,7 @@ TEST(Boot, Follows_the_criteria_of_velocity_and_least_dimensions) {
   criteriaOf(plant) = {{"Bootleg liquid velocity", {0.2, "FPM"}},
                        {"Minimum bootleg diameter", {4.7, "FEET"}},
                        {"Minimum bootleg length", {11.2, "FEET"}}};
-  VesselAtHand drum(plant);
+  SizedVessel drum(plant);
   drum->Size();
   // 166.7 CF at 12 FT/H take 4.21 ft, in 4.7 ft they stand 9.61 ft high
   EXPECT_NEAR(std::sqrt(1000 / 6.0 / 12 * 4 / kCirclePi), 4.21, 0.005);
@@ -58,20 +58,20 @@ TEST(Boot, Follows_the_criteria_of_velocity_and_least_dimensions) {
 }
 
 TEST(Boot, Is_at_least_1_5_feet_wide_and_3_feet_long) {
-  VesselAtHand wide(drumWithWater(100));
+  SizedVessel wide(drumWithWater(100));
   wide->Size();
   EXPECT_EQ(wide.values().boot_dia, 1.5);
   EXPECT_NEAR(100 / 6.0 / cylinderOf(1.5, 1), 9.43, 0.005);
   EXPECT_EQ(wide.values().boot_ht, 9.5);
 
-  VesselAtHand both(drumWithWater(1));
+  SizedVessel both(drumWithWater(1));
   both->Size();
   EXPECT_EQ(both.values().boot_dia, 1.5);
   EXPECT_EQ(both.values().boot_ht, 3);
 }
 
 TEST(Boot, Is_not_there_without_a_heavy_liquid_even_when_the_user_gave_a_height) {
-  VesselAtHand drum(horizontalDrum());
+  SizedVessel drum(horizontalDrum());
   drum.data().boot_ht = 4.2;
   EXPECT_EQ(drum->Size(), 1);
   EXPECT_EQ(drum.values().boot_ht, 0);
@@ -81,7 +81,7 @@ TEST(Boot, Is_not_there_without_a_heavy_liquid_even_when_the_user_gave_a_height)
 }
 
 TEST(Boot, Of_a_user_diameter_without_heavy_liquid_has_the_least_length_without_a_word) {
-  VesselAtHand drum(horizontalDrum());
+  SizedVessel drum(horizontalDrum());
   drum.data().boot_dia = 2;
   EXPECT_EQ(drum->Size(), 1);
   EXPECT_EQ(drum.values().boot_dia, 2);
@@ -90,7 +90,7 @@ TEST(Boot, Of_a_user_diameter_without_heavy_liquid_has_the_least_length_without_
 }
 
 TEST(Boot, Of_a_user_diameter_is_rounded_up_all_the_same_but_not_raised) {
-  VesselAtHand drum(drumWithWater(100));
+  SizedVessel drum(drumWithWater(100));
   drum.data().boot_dia = 1.2;
   EXPECT_EQ(drum->Size(), 1);
   EXPECT_EQ(drum.values().boot_dia, 1.5);
@@ -98,14 +98,14 @@ TEST(Boot, Of_a_user_diameter_is_rounded_up_all_the_same_but_not_raised) {
   EXPECT_EQ(drum.values().boot_ht, 15);
   EXPECT_EQ(drum.timesTold(kRounded), 2);
 
-  VesselAtHand narrow(drumWithWater(100));
+  SizedVessel narrow(drumWithWater(100));
   narrow.data().boot_dia = 0.4;
   narrow->Size();
   EXPECT_EQ(narrow.values().boot_dia, 0.5);
 }
 
 TEST(Boot, Of_a_user_length_is_rounded_up_all_the_same_but_not_raised) {
-  VesselAtHand drum(drumWithWater(1000));
+  SizedVessel drum(drumWithWater(1000));
   drum.data().boot_ht = 2.2;
   EXPECT_EQ(drum->Size(), 1);
   EXPECT_EQ(drum.values().boot_ht, 2.5);
@@ -113,7 +113,7 @@ TEST(Boot, Of_a_user_length_is_rounded_up_all_the_same_but_not_raised) {
 }
 
 TEST(Boot, Of_user_dimensions_needs_no_heavy_liquid) {
-  VesselAtHand drum(horizontalDrum());
+  SizedVessel drum(horizontalDrum());
   drum.data().boot_dia = 1.2;
   drum.data().boot_ht = 4;
   drum->Size();
@@ -126,7 +126,7 @@ TEST(Boot, Is_not_sized_for_two_liquids_of_nearly_the_same_density) {
   for (const double density : {51.0, 52.4, 52.6}) {
     Plant plant = horizontalDrum();
     addHeavyLiquid(plant, 1000 * density, density);
-    VesselAtHand drum(plant);
+    SizedVessel drum(plant);
     drum->Size();
     const bool same = (density - 50) / 50 < 0.05;
     EXPECT_EQ(drum.values().boot_dia, same ? 0 : 3) << density;
@@ -135,7 +135,7 @@ TEST(Boot, Is_not_sized_for_two_liquids_of_nearly_the_same_density) {
 }
 
 TEST(Boot, Is_written_to_the_record) {
-  VesselAtHand drum(drumWithWater(1000));
+  SizedVessel drum(drumWithWater(1000));
   drum->Size();
   drum->Commit();
   EXPECT_EQ(drum.number("CpDripLegDiameter"), 3);

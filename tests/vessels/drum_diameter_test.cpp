@@ -30,7 +30,7 @@ constexpr const char* kBetween =
 constexpr const char* kMethod = "Vapor/Liquid Separator Sizing Method";
 
 // The diameter that the vapor of a drum asks for, as the trace tells it; -1 when it does not.
-double vaporDiameterTold(const VesselAtHand& drum) {
+double vaporDiameterTold(const SizedVessel& drum) {
   const std::string start = "ves_dia(based on vapor flow) = ";
   for (const std::string& line : drum.calculations()) {
     if (line.rfind(start, 0) == 0) return std::stod(line.substr(start.size()));
@@ -47,7 +47,7 @@ double horizontalDiameter(double flow, double velocity, double ratio) {
 
 // A drum whose liquid is so little that the vapor decides, and large enough to read the diameter.
 Plant vaporDrum(const char* category, double vaporFlow = 1e6) {
-  Plant plant = vesselPlant(category, "CYLINDER");
+  Plant plant = sizingPlant(category, "CYLINDER");
   setVapor(plant, vaporFlow, 0.5);
   setLiquid(plant, vaporFlow * 6, 50);
   criteriaOf(plant)["Residence Time"] = Plant::array({0.01, "MINUTE"});
@@ -57,7 +57,7 @@ Plant vaporDrum(const char* category, double vaporFlow = 1e6) {
 // --- Liquid entrainment -------------------------------------------------------------------------
 
 TEST(DrumVapor, Of_a_vertical_drum_passes_its_cross_section) {
-  VesselAtHand drum(vaporDrum("DVT"));
+  SizedVessel drum(vaporDrum("DVT"));
   drum->Size();
   const double velocity = 0.221281748966819 * kRootOfRatio * 3600;
   EXPECT_NEAR(vaporDiameterTold(drum), verticalDiameter(100 * kVapor, velocity), 0.0051);
@@ -69,7 +69,7 @@ TEST(DrumVapor, Of_every_other_drum_passes_a_section_of_its_slenderness) {
     double multiplier;
   };
   for (const Row& row : {Row{"DHT", kHorizontalMultiplier}, Row{"EVT", 1.0}}) {
-    VesselAtHand drum(vaporDrum(row.category));
+    SizedVessel drum(vaporDrum(row.category));
     drum->Size();
     const double velocity = 0.221281748966819 * row.multiplier * kRootOfRatio * 3600;
     EXPECT_NEAR(vaporDiameterTold(drum), horizontalDiameter(100 * kVapor, velocity, kRatio), 0.0051)
@@ -80,7 +80,7 @@ TEST(DrumVapor, Of_every_other_drum_passes_a_section_of_its_slenderness) {
 TEST(DrumVapor, Does_not_ask_a_horizontal_drum_for_its_area_ratio) {
   double told[2] = {};
   for (const int i : {0, 1}) {
-    VesselAtHand drum(vaporDrum("DHT"));
+    SizedVessel drum(vaporDrum("DHT"));
     drum.data().r_vc = i == 0 ? 0.2 : 0.9;
     drum->Size();
     told[i] = vaporDiameterTold(drum);
@@ -94,7 +94,7 @@ TEST(DrumVapor, Takes_a_given_Kv_without_the_correlation_and_its_warnings) {
     Plant plant = vaporDrum(category);
     setLiquid(plant, 1000, 50);  // separation factor 0.0001
     criteriaOf(plant)["Separation factor"] = 0.4;
-    VesselAtHand drum(plant);
+    SizedVessel drum(plant);
     drum->Size();
     const bool vertical = std::string(category) == "DVT";
     const double velocity = 0.4 * (vertical ? 1 : kHorizontalMultiplier) * kRootOfRatio * 3600;
@@ -109,7 +109,7 @@ TEST(DrumVapor, Takes_a_given_Kv_without_the_correlation_and_its_warnings) {
 TEST(DrumVapor, Replaces_a_negative_Kv_by_0_227) {
   Plant plant = vaporDrum("DVT");
   criteriaOf(plant)["Separation factor"] = -0.4;
-  VesselAtHand drum(plant);
+  SizedVessel drum(plant);
   drum->Size();
   EXPECT_NEAR(vaporDiameterTold(drum), verticalDiameter(100 * kVapor, 0.227 * kRootOfRatio * 3600),
               0.0051);
@@ -136,7 +136,7 @@ TEST(DrumVapor, Keeps_the_separation_factor_within_its_range) {
     Plant plant = vaporDrum("DVT");
     setLiquid(plant, row.liquidFlow, 50);
     criteriaOf(plant)["Residence Time"] = Plant::array({1e-6, "MINUTE"});
-    VesselAtHand drum(plant);
+    SizedVessel drum(plant);
     drum->Size();
     EXPECT_NEAR(vaporDiameterTold(drum),
                 verticalDiameter(100 * kVapor, row.kv * kRootOfRatio * 3600), 0.0051);
@@ -156,7 +156,7 @@ TEST(DrumVapor, Does_not_warn_at_a_separation_factor_on_the_limit) {
     Plant plant = verticalDrum();
     setVapor(plant, 1000, 1);
     setLiquid(plant, row.liquidFlow, 1);
-    VesselAtHand drum(plant);
+    SizedVessel drum(plant);
     drum->Size();
     EXPECT_EQ(drum.warned(kFactorLow), row.warning == kFactorLow) << row.liquidFlow;
     EXPECT_EQ(drum.warned(kFactorHigh), row.warning == kFactorHigh) << row.liquidFlow;
@@ -166,7 +166,7 @@ TEST(DrumVapor, Does_not_warn_at_a_separation_factor_on_the_limit) {
 TEST(DrumVapor, Assumes_water_when_no_liquid_leaves) {
   Plant plant = verticalDrum();
   removeLiquid(plant);
-  VesselAtHand drum(plant, 1);
+  SizedVessel drum(plant, 1);
   drum->Size();
   EXPECT_EQ(drum.values().light_liq_density, 62.4);
   EXPECT_TRUE(drum.warned(kNoDensity));
@@ -182,7 +182,7 @@ TEST(DrumVapor, Finds_no_velocity_with_a_given_Kv_and_no_liquid_density) {
   Plant plant = verticalDrum();
   removeLiquid(plant);
   criteriaOf(plant)["Separation factor"] = 0.3;
-  VesselAtHand drum(plant);
+  SizedVessel drum(plant);
   drum->Size();
   EXPECT_EQ(drum.values().light_liq_density, 0);
   EXPECT_FALSE(drum.warned(kNoDensity));
@@ -194,7 +194,7 @@ TEST(DrumVapor, Finds_no_velocity_for_a_liquid_as_light_as_the_vapor) {
   for (const double density : {0.5, 0.4}) {
     Plant plant = verticalDrum();
     setLiquid(plant, 600, density);
-    VesselAtHand drum(plant, 1);
+    SizedVessel drum(plant, 1);
     drum->Size();
     EXPECT_TRUE(drum.warned(kNoVelocity));
     const auto boxes = drum.boxes();
@@ -213,9 +213,9 @@ TEST(DrumVapor, Is_the_greater_of_inlet_and_exit) {
   };
   for (const Row& row : {Row{0.9e6, 2e6, 0.5}, Row{1.5e6, 3e6, 0.5}}) {
     Plant plant = vaporDrum("DVT");
-    setPhase(plant, "VAPOR", "VAPOR", row.exitFlow, 0.5);
+    setPhase(plant, "V", "VAPOR", row.exitFlow, 0.5);
     criteriaOf(plant)["Separation factor"] = 0.4;
-    VesselAtHand drum(plant);
+    SizedVessel drum(plant);
     drum->Size();
     EXPECT_NEAR(vaporDiameterTold(drum), verticalDiameter(row.volume, 0.4 * kRootOfRatio * 3600),
                 0.0051);
@@ -224,9 +224,9 @@ TEST(DrumVapor, Is_the_greater_of_inlet_and_exit) {
 
 TEST(DrumVapor, Of_equal_volumes_is_that_of_the_exit) {
   Plant plant = vaporDrum("DVT");
-  setPhase(plant, "VAPOR", "VAPOR", 2e6, 1.0);  // as many CF/H as the inlet, but denser
+  setPhase(plant, "V", "VAPOR", 2e6, 1.0);  // as many CF/H as the inlet, but denser
   criteriaOf(plant)["Separation factor"] = 0.4;
-  VesselAtHand drum(plant);
+  SizedVessel drum(plant);
   drum->Size();
   EXPECT_NEAR(vaporDiameterTold(drum), verticalDiameter(2e6, 0.4 * std::sqrt(49) * 3600), 0.0051);
 }
@@ -241,7 +241,7 @@ Plant bubbleDrum(const char* category, double bubble) {
 }
 
 TEST(BubbleDisengagement, Rises_at_half_its_terminal_velocity_in_a_vertical_drum) {
-  VesselAtHand drum(bubbleDrum("DVT", 0.0125));
+  SizedVessel drum(bubbleDrum("DVT", 0.0125));
   drum->Size();
   const double terminal = 1.74 * std::sqrt(4.17118e8 * 0.0125 * 49.5 / 0.5);
   EXPECT_NEAR(vaporDiameterTold(drum), verticalDiameter(100 * kVapor, terminal / 2), 0.0051);
@@ -253,7 +253,7 @@ TEST(BubbleDisengagement, Rises_at_half_its_terminal_velocity_in_a_vertical_drum
 TEST(BubbleDisengagement, Takes_the_factor_of_the_criteria) {
   Plant plant = bubbleDrum("DHT", 0.0125);
   criteriaOf(plant)["Design factor multiplier for disengagement velocity"] = 0.8;
-  VesselAtHand drum(plant);
+  SizedVessel drum(plant);
   drum->Size();
   const double terminal = 1.74 * std::sqrt(4.17118e8 * 0.0125 * 49.5 / 0.5);
   EXPECT_NEAR(vaporDiameterTold(drum), horizontalDiameter(100 * kVapor, terminal * 0.8, kRatio),
@@ -261,7 +261,7 @@ TEST(BubbleDisengagement, Takes_the_factor_of_the_criteria) {
 }
 
 TEST(BubbleDisengagement, Of_a_horizontal_drum_without_a_factor_has_no_velocity) {
-  VesselAtHand drum(bubbleDrum("DHT", 0.0125));
+  SizedVessel drum(bubbleDrum("DHT", 0.0125));
   drum->Size();
   EXPECT_EQ(drum.values().disengage_factor, 0);
   EXPECT_EQ(vaporDiameterTold(drum), 0);
@@ -273,14 +273,14 @@ TEST(BubbleDisengagement, Is_every_method_but_the_one_of_entrainment) {
   for (const char* method : {"liquid entrainment method", "LIQUID ENTRAINMENT METHOD"}) {
     Plant plant = vaporDrum("DHT");
     criteriaOf(plant)[kMethod] = method;
-    VesselAtHand drum(plant);
+    SizedVessel drum(plant);
     drum->Size();
     EXPECT_GT(vaporDiameterTold(drum), 0) << method;
   }
   for (const char* method : {"Liquid Entrainment", "Liquid  Entrainment Method", "x"}) {
     Plant plant = vaporDrum("DHT");
     criteriaOf(plant)[kMethod] = method;
-    VesselAtHand drum(plant);
+    SizedVessel drum(plant);
     drum->Size();
     EXPECT_TRUE(drum.warned(kNoVelocity)) << method;
   }
@@ -294,7 +294,7 @@ TEST(BubbleDisengagement, Warns_between_the_regimes) {
   };
   for (const Row& row :
        {Row{2.999, false}, Row{3.001, true}, Row{69.99, true}, Row{70.01, false}}) {
-    VesselAtHand drum(bubbleDrum("DVT", row.k / one), 1);
+    SizedVessel drum(bubbleDrum("DVT", row.k / one), 1);
     drum->Size();
     EXPECT_EQ(drum.warned(kBetween), row.warns) << row.k;
     const auto boxes = drum.boxes();
@@ -305,7 +305,7 @@ TEST(BubbleDisengagement, Warns_between_the_regimes) {
 
 TEST(BubbleDisengagement, Warns_of_bubbles_above_0_3125_feet) {
   for (const double bubble : {0.3125, 0.3126}) {
-    VesselAtHand drum(bubbleDrum("DVT", bubble), 1);
+    SizedVessel drum(bubbleDrum("DVT", bubble), 1);
     drum->Size();
     EXPECT_EQ(drum.warned(kLargeBubble), bubble > 0.3125);
     const auto boxes = drum.boxes();
@@ -318,7 +318,7 @@ TEST(BubbleDisengagement, In_a_dry_drum_finds_no_velocity_though_water_is_assume
   Plant plant = bubbleDrum("DVT", 0.0125);
   removeLiquid(plant);
   for (const int interactive : {1, 0}) {
-    VesselAtHand drum(plant, interactive);
+    SizedVessel drum(plant, interactive);
     drum->Size();
     EXPECT_EQ(drum.values().light_liq_density, 62.4);
     EXPECT_EQ(drum.warnings(), (Texts{kNoDensity, kBetween, kNoVelocity}));
@@ -335,9 +335,9 @@ TEST(BubbleDisengagement, In_a_dry_drum_finds_no_velocity_though_water_is_assume
 }
 
 TEST(BubbleDisengagement, Reports_its_progress) {
-  VesselAtHand drum(bubbleDrum("DVT", 0.0125));
+  SizedVessel drum(bubbleDrum("DVT", 0.0125));
   const auto lines = drum.sizingProgress();
-  const auto expected = VesselAtHand::Progress{
+  const auto expected = SizedVessel::Progress{
       {64, "Calculating vessel diameter based on vapor flow."},
       {65, "Checking user specified method for estimating design vapor velocity."},
       {65, "Calculating vapor velocity based on liquid bubble disengagement."},
@@ -360,7 +360,7 @@ TEST(DrumDiameter, Is_at_least_the_one_of_the_criteria) {
   for (const Row& row : {Row{4.62, false}, Row{4.64, true}, Row{7.2, true}}) {
     Plant plant = verticalDrum();
     criteriaOf(plant)["Minimum vessel diameter"] = Plant::array({row.minimum, "FEET"});
-    VesselAtHand drum(plant, 1);
+    SizedVessel drum(plant, 1);
     drum->Size();
     const std::string text = formatText(
         "Calculated Vessel Diameter is  4.63 feet. User specified minimum value %5.2f feet is "
@@ -378,7 +378,7 @@ TEST(DrumDiameter, Of_liquid_that_would_take_more_than_50_feet_is_left_to_the_va
   constexpr const char* kOutside = "Diameter is outside range 0 to 1000 feet.";
   const double limit = cylinderOf(50, kRatio * 50);
   for (const double capacity : {limit * 0.999, limit * 1.001}) {
-    VesselAtHand drum(verticalDrum(), 1);
+    SizedVessel drum(verticalDrum(), 1);
     drum.data().capacity = capacity;
     drum->Size();
     const bool outside = capacity > limit;
@@ -397,7 +397,7 @@ TEST(DrumDiameter, Of_liquid_that_would_take_more_than_50_feet_is_left_to_the_va
 TEST(DrumDiameter, Without_vapor_is_that_of_the_liquid_and_no_velocity_is_sought) {
   Plant plant = verticalDrum();
   removeVapor(plant);
-  VesselAtHand drum(plant);
+  SizedVessel drum(plant);
   const auto lines = drum.sizingProgress();
   EXPECT_EQ(vaporDiameterTold(drum), 0);
   EXPECT_EQ(drum.values().ves_dia, 5);
@@ -409,7 +409,7 @@ TEST(DrumDiameter, Is_the_liquids_where_the_drum_is_slender_enough_for_either) {
   for (const double ratio : {1.5, 3.0, 6.0}) {
     Plant plant = verticalDrum();
     criteriaOf(plant)["Process Vessel Height to Diameter Ratio"] = ratio;
-    VesselAtHand drum(plant);
+    SizedVessel drum(plant);
     drum.data().kv_factor = 0.3;
     drum->Size();
     std::string line;

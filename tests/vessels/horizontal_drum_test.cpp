@@ -39,7 +39,7 @@ std::string byRatio(double length, double diameter, double ratio) {
 }
 
 TEST(HorizontalDrum, Holds_the_liquid_of_the_residence_time_beside_its_vapor) {
-  VesselAtHand drum(horizontalDrum());
+  SizedVessel drum(horizontalDrum());
   EXPECT_EQ(drum->Size(), 1);
   EXPECT_NEAR(liquidDiameter(kFull, kRatio), 4.66, 0.005);
   EXPECT_EQ(drum.values().ves_dia, 5);
@@ -55,9 +55,9 @@ TEST(HorizontalDrum, Holds_the_liquid_of_the_residence_time_beside_its_vapor) {
 }
 
 TEST(HorizontalDrum, Reports_its_progress) {
-  VesselAtHand drum(horizontalDrum());
+  SizedVessel drum(horizontalDrum());
   EXPECT_EQ(drum.sizingProgress(),
-            (VesselAtHand::Progress{
+            (SizedVessel::Progress{
                 {51, "Checking user specifications."},
                 {53, "Checking vessel configuration."},
                 {53, "Beginning horizontal vessel design."},
@@ -91,7 +91,7 @@ TEST(HorizontalDrum, Reports_its_progress) {
 
 TEST(HorizontalDrum, Is_told_by_its_category_without_regard_to_case) {
   for (const char* category : {"DHT", "dht", "Dht"}) {
-    VesselAtHand drum(vesselPlant(category, "HORIZ DRUM"));
+    SizedVessel drum(sizingPlant(category, "HORIZ DRUM"));
     drum->Size();
     EXPECT_TRUE(drum.told(kByLiquid)) << category;
   }
@@ -99,7 +99,7 @@ TEST(HorizontalDrum, Is_told_by_its_category_without_regard_to_case) {
 
 TEST(HorizontalDrum, Compares_its_slenderness_with_the_criterion_always) {
   for (const int interactive : {1, 0}) {
-    VesselAtHand drum(horizontalDrum(), interactive);
+    SizedVessel drum(horizontalDrum(), interactive);
     drum.data().ves_dia = 4;
     drum.data().ves_height = 10;
     drum->Size();
@@ -117,7 +117,7 @@ TEST(HorizontalDrum, Without_liquid_has_the_length_of_its_slenderness) {
   Plant plant = horizontalDrum();
   removeLiquid(plant);
   setVapor(plant, 1e6, 0.5);
-  VesselAtHand drum(plant);
+  SizedVessel drum(plant);
   EXPECT_EQ(drum->Size(), 1);
   const double velocity = 0.257424466046143 * 1.25 * std::sqrt(61.9 / 0.5) * 3600;
   const double diameter = std::sqrt(2e6 / (kCirclePi / 4 * velocity * kRatio));  // 8.12
@@ -132,7 +132,7 @@ TEST(HorizontalDrum, Without_liquid_has_the_length_of_its_slenderness) {
 TEST(HorizontalDrum, Of_a_user_diameter_without_liquid_tells_so_once) {
   Plant plant = horizontalDrum();
   removeLiquid(plant);
-  VesselAtHand drum(plant);
+  SizedVessel drum(plant);
   drum.data().ves_dia = 3.3;
   drum->Size();
   EXPECT_EQ(drum.timesTold(kNoLiquid), 1);
@@ -151,7 +151,7 @@ TEST(HorizontalDrum, That_its_liquid_would_leave_shorter_than_wide_takes_its_sle
   for (const Row& row : {Row{5.999, true}, Row{6.001, false}, Row{3.0, true}}) {
     Plant plant = horizontalDrum();
     setLiquid(plant, cylinderOf(6, row.length) * 0.8 * 6 * 50, 50);
-    VesselAtHand drum(plant);
+    SizedVessel drum(plant);
     drum.data().ves_dia = 6;
     EXPECT_EQ(drum->Size(), 1);
     EXPECT_EQ(drum.told(kByLiquid), !row.tooShort);
@@ -165,7 +165,7 @@ TEST(HorizontalDrum, That_its_liquid_would_leave_shorter_than_wide_takes_its_sle
 TEST(HorizontalDrum, Does_not_show_the_warning_of_a_short_drum) {
   Plant plant = horizontalDrum();
   setLiquid(plant, 600, 50);
-  VesselAtHand drum(plant, 1);
+  SizedVessel drum(plant, 1);
   drum.data().ves_dia = 6;
   drum->Size();
   EXPECT_TRUE(drum.warned(kTooShortWarning));
@@ -174,8 +174,8 @@ TEST(HorizontalDrum, Does_not_show_the_warning_of_a_short_drum) {
 
 TEST(HorizontalDrum, Uses_the_inlet_liquid_when_no_liquid_leaves) {
   Plant plant = horizontalDrum();
-  plant["streams"]["LIQUID"]["slots"] = Plant::object();
-  VesselAtHand drum(plant);
+  plant["streams"]["L"]["slots"] = Plant::object();
+  SizedVessel drum(plant);
   drum->Size();
   EXPECT_TRUE(drum.told(kByLiquid));
   EXPECT_EQ(drum.values().ves_height, 15);
@@ -187,7 +187,7 @@ TEST(HorizontalDrum, Is_the_larger_the_more_of_it_is_vapor) {
   for (const double share : {0.1, 0.5, 0.99}) {
     Plant plant = horizontalDrum();
     criteriaOf(plant)["Vapor area / cross sectional area"] = share;
-    VesselAtHand drum(plant);
+    SizedVessel drum(plant);
     EXPECT_EQ(drum->Size(), 1);
     const double diameter = liquidDiameter(kHeld / (1 - share), kRatio);
     EXPECT_EQ(drum.values().ves_dia, roundedUp(diameter)) << share;
@@ -201,7 +201,7 @@ TEST(HorizontalDrum, All_of_it_vapor_is_an_error_that_ends_an_interactive_run) {
     Plant plant = horizontalDrum();
     addHeavyLiquid(plant, 6240, 62.4);
     criteriaOf(plant)["Vapor area / cross sectional area"] = share;
-    VesselAtHand drum(plant, 1);
+    SizedVessel drum(plant, 1);
     drum.data().boot_ht = 2.2;
     EXPECT_EQ(drum->Size(), 0);
     EXPECT_EQ(drum.calculations(), Texts{kInvalidRatio});
@@ -216,7 +216,7 @@ TEST(HorizontalDrum, All_of_it_vapor_is_an_error_that_ends_an_interactive_run) {
 TEST(HorizontalDrum, All_of_it_vapor_goes_on_to_the_boot_when_dialogs_are_off) {
   Plant plant = horizontalDrum();
   criteriaOf(plant)["Vapor area / cross sectional area"] = 1.0;
-  VesselAtHand drum(plant);
+  SizedVessel drum(plant);
   const auto lines = drum.sizingProgress();
   EXPECT_EQ(lines.back(), (std::pair<int, std::string>{90, "Completed vessel sizing..."}));
   EXPECT_EQ(drum.calculations(), (Texts{kInvalidRatio, kNoBoot}));
@@ -231,7 +231,7 @@ TEST(HorizontalDrum, All_of_it_vapor_keeps_what_stands_when_dialogs_are_off) {
   Plant plant = horizontalDrum();
   addHeavyLiquid(plant, 6240, 62.4);
   criteriaOf(plant)["Vapor area / cross sectional area"] = 1.0;
-  VesselAtHand drum(plant);
+  SizedVessel drum(plant);
   drum.data().ves_dia = 4.2;
   drum.data().ves_height = 10.3;
   EXPECT_EQ(drum->Size(), 1);
@@ -242,7 +242,7 @@ TEST(HorizontalDrum, All_of_it_vapor_keeps_what_stands_when_dialogs_are_off) {
 // --- What the user gives ------------------------------------------------------------------------
 
 TEST(HorizontalDrum, Of_a_user_diameter_keeps_it_unrounded_and_rounds_the_length) {
-  VesselAtHand drum(horizontalDrum());
+  SizedVessel drum(horizontalDrum());
   drum.data().ves_dia = 4.3;
   EXPECT_EQ(drum->Size(), 1);
   EXPECT_EQ(drum.values().ves_dia, 4.3);
@@ -254,7 +254,7 @@ TEST(HorizontalDrum, Of_a_user_diameter_keeps_it_unrounded_and_rounds_the_length
 }
 
 TEST(HorizontalDrum, Of_a_user_length_has_the_diameter_that_holds_the_liquid) {
-  VesselAtHand drum(horizontalDrum());
+  SizedVessel drum(horizontalDrum());
   drum.data().ves_height = 10.3;
   EXPECT_EQ(drum->Size(), 1);
   const double diameter = std::sqrt(kFull * 4 / kCirclePi / 10.3);  // 5.56
@@ -271,7 +271,7 @@ TEST(HorizontalDrum, Of_a_user_length_has_the_diameter_that_holds_the_liquid) {
 TEST(HorizontalDrum, Of_a_user_capacity_has_its_dimensions_from_that) {
   Plant plant = horizontalDrum();
   removeLiquid(plant);
-  VesselAtHand drum(plant);
+  SizedVessel drum(plant);
   drum.data().capacity = 400;
   EXPECT_EQ(drum->Size(), 1);
   const double diameter = liquidDiameter(400, kRatio);  // 5.44
@@ -285,7 +285,7 @@ TEST(HorizontalDrum, Of_a_user_capacity_has_its_dimensions_from_that) {
 TEST(HorizontalDrum, Of_a_user_capacity_and_length_is_geometry_without_a_least_diameter) {
   Plant plant = horizontalDrum();
   criteriaOf(plant)["Minimum vessel diameter"] = Plant::array({9, "FEET"});
-  VesselAtHand drum(plant);
+  SizedVessel drum(plant);
   drum.data().capacity = 300;
   drum.data().ves_height = 12;
   EXPECT_EQ(drum->Size(), 1);
@@ -298,7 +298,7 @@ TEST(HorizontalDrum, Of_a_user_capacity_and_length_is_geometry_without_a_least_d
 TEST(HorizontalDrum, Of_a_least_diameter_is_as_wide_and_shorter) {
   Plant plant = horizontalDrum();
   criteriaOf(plant)["Minimum vessel diameter"] = Plant::array({5.8, "FEET"});
-  VesselAtHand drum(plant);
+  SizedVessel drum(plant);
   EXPECT_EQ(drum->Size(), 1);
   EXPECT_TRUE(
       drum.warned("Calculated Vessel Diameter is  4.66 feet. User specified minimum value  5.80 "
@@ -311,7 +311,7 @@ TEST(HorizontalDrum, Guards_against_a_ratio_and_a_residence_time_that_are_not_po
   Plant plant = horizontalDrum();
   criteriaOf(plant)["Residence Time"] = Plant::array({-1, "MINUTE"});
   criteriaOf(plant)["Process Vessel Height to Diameter Ratio"] = -1;
-  VesselAtHand drum(plant);
+  SizedVessel drum(plant);
   EXPECT_EQ(drum->Size(), 1);
   EXPECT_EQ(drum.values().res_time, 5);
   EXPECT_EQ(drum.values().ht_dia_ratio, 3);
@@ -322,7 +322,7 @@ TEST(HorizontalDrum, Without_a_diameter_has_no_length_and_is_not_refused) {
   Plant plant = horizontalDrum();
   removeLiquid(plant);
   criteriaOf(plant)["Separation factor"] = 0.3;  // no velocity without a liquid's density
-  VesselAtHand drum(plant);
+  SizedVessel drum(plant);
   EXPECT_EQ(drum->Size(), 1);
   EXPECT_EQ(drum.values().ves_dia, 0);
   EXPECT_EQ(drum.values().ves_height, 0);

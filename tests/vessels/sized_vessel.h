@@ -8,8 +8,7 @@
 #include <utility>
 #include <vector>
 
-#include "sizewright/vessels/vessel.h"
-#include "support/item_at_hand.h"
+#include "vessels/vessel_plant.h"
 
 namespace sizewright {
 
@@ -23,9 +22,8 @@ inline void expectClose(double value, double expected, double tolerance = kPower
 }
 
 // Of streams at 77 DEG F and 15 PSI the bundled rules make 50 degrees and 25 PSI more.
-inline constexpr double kAtmosphere = 14.695948775513;  // PSI
-inline constexpr double kDesignTemperature = 127;       // DEG F
-inline constexpr double kDesignGauge = 15 - kAtmosphere + 25;
+inline constexpr double kDesignTemperature = 127;  // DEG F
+inline constexpr double kDesignGauge = 15 - kStandardAtmosphere + 25;
 inline constexpr const char* kVacuum = "CpVacuumDesignGaugePressure";
 
 inline constexpr const char* kNoCapacity =
@@ -46,75 +44,39 @@ inline double cylinderOf(double diameter, double height) {
   return kCirclePi / 4 * squareOf(diameter) * height;
 }
 
-/// A vessel V-1 of the given category and item from FEED to VAPOR and LIQUID. FEED carries 20,000
-/// CF/H of vapor at 0.5 PCF and 1,200 CF/H of liquid at 50 PCF, which leave apart. No criteria.
-inline PlantJson vesselPlant(const char* category, const char* item) {
-  PlantJson plant = PlantJson::parse(R"({
-    "sizewright": 1, "units": "customary", "simulator": 1,
-    "streams": {
-      "FEED": {"slots": {"VAPOR MASS FLOW": [10000, "LB/H"], "VAPOR MASS DENSITY": [0.5, "PCF"],
-                         "LIQUID MASS FLOW": [60000, "LB/H"],
-                         "LIQUID MASS DENSITY": [50, "PCF"]}},
-      "VAPOR": {"slots": {"VAPOR MASS FLOW": [10000, "LB/H"], "VAPOR MASS DENSITY": [0.5, "PCF"]}},
-      "LIQUID": {"slots": {"LIQUID MASS FLOW": [60000, "LB/H"],
-                           "LIQUID MASS DENSITY": [50, "PCF"]}}
-    },
-    "blocks": {"B1": {"class": 405, "slots": {}}},
-    "items": {
-      "V-1": {"model": "VESSEL", "block": "B1", "inlets": {"INLET": ["FEED"]},
-              "exits": {"VAPOR OUTLET": ["VAPOR"], "LIQUID OUTLET": ["LIQUID"]},
-              "component": {}, "project": {}}
-    },
-    "criteria": {"*": {}}
-  })");
-  plant["items"]["V-1"]["category"] = category;
-  plant["items"]["V-1"]["item"] = item;
-  return plant;
-}
-inline PlantJson verticalDrum() {
-  return vesselPlant("DVT", "CYLINDER");
-}
-inline PlantJson horizontalDrum() {
-  return vesselPlant("DHT", "HORIZ DRUM");
-}
-
 // Changes to a plant under construction. Flows are LB/H, densities PCF.
-inline PlantJson& criteriaOf(PlantJson& plant) {
-  return plant["criteria"]["*"];
-}
-inline PlantJson& recordOf(PlantJson& plant) {
-  return plant["items"]["V-1"]["component"];
-}
-inline PlantJson& projectOf(PlantJson& plant) {
-  return plant["items"]["V-1"]["project"];
-}
 inline void setPhase(PlantJson& plant, const char* stream, const char* phase, double flow,
                      double density) {
-  PlantJson& slots = plant["streams"][stream]["slots"];
+  PlantJson& slots = slotsOf(plant, stream);
   slots[std::string(phase) + " MASS FLOW"] = {flow, "LB/H"};
   slots[std::string(phase) + " MASS DENSITY"] = {density, "PCF"};
 }
 inline void setVapor(PlantJson& plant, double flow, double density) {
-  setPhase(plant, "FEED", "VAPOR", flow, density);
-  setPhase(plant, "VAPOR", "VAPOR", flow, density);
+  setPhase(plant, "F", "VAPOR", flow, density);
+  setPhase(plant, "V", "VAPOR", flow, density);
 }
 inline void setLiquid(PlantJson& plant, double flow, double density) {
-  setPhase(plant, "FEED", "LIQUID", flow, density);
-  setPhase(plant, "LIQUID", "LIQUID", flow, density);
+  setPhase(plant, "F", "LIQUID", flow, density);
+  setPhase(plant, "L", "LIQUID", flow, density);
 }
 /// Leaves the vessel without liquid: the feed is vapor, and nothing but vapor leaves.
 inline void removeLiquid(PlantJson& plant) {
-  plant["streams"]["FEED"]["slots"].erase("LIQUID MASS FLOW");
-  plant["items"]["V-1"]["exits"].erase("LIQUID OUTLET");
+  slotsOf(plant, "F").erase("LIQUID MASS FLOW");
+  itemOf(plant)["exits"].erase("LIQUID OUTLET");
 }
 /// Leaves the vessel without vapor.
 inline void removeVapor(PlantJson& plant) {
-  plant["streams"]["FEED"]["slots"].erase("VAPOR MASS FLOW");
-  plant["items"]["V-1"]["exits"].erase("VAPOR OUTLET");
+  slotsOf(plant, "F").erase("VAPOR MASS FLOW");
+  itemOf(plant)["exits"].erase("VAPOR OUTLET");
+}
+/// A second liquid leaves, heavier than the first.
+inline void addHeavyLiquid(PlantJson& plant, double flow, double density) {
+  setPhase(plant, "H", "LIQUID", flow, density);
+  itemOf(plant)["exits"]["HEAVY LIQUID OUTLET"] = {"H"};
 }
 inline void setPressure(PlantJson& plant, double pressure) {
-  for (const char* stream : {"FEED", "VAPOR", "LIQUID"}) {
-    plant["streams"][stream]["slots"]["PRESSURE"] = {pressure, "PSI"};
+  for (const char* stream : {"F", "V", "L"}) {
+    slotsOf(plant, stream)["PRESSURE"] = {pressure, "PSI"};
   }
 }
 /// The project forbids resizing and gives 50 PSI and 300 DEG F.
@@ -123,11 +85,24 @@ inline void setUserDesign(PlantJson& plant) {
                       {"CpDesignGaugePressure", {50, "PSI"}},
                       {"CpDesignTemperature", {300, "DEG F"}}};
 }
-/// A second liquid leaves, heavier than the first.
-inline void addHeavyLiquid(PlantJson& plant, double flow, double density) {
-  plant["streams"]["WATER"]["slots"] = PlantJson::object();
-  setPhase(plant, "WATER", "LIQUID", flow, density);
-  plant["items"]["V-1"]["exits"]["HEAVY LIQUID OUTLET"] = PlantJson::array({"WATER"});
+
+/// A vessel that 20,000 CF/H of vapor at 0.5 PCF and 1,200 CF/H of liquid at 50 PCF enter together
+/// and leave apart, at 77 DEG F and 15 PSI. Without criteria: the separation factor is 0.6.
+inline PlantJson sizingPlant(const char* category, const char* item) {
+  PlantJson plant = vesselPlant(category, item);
+  for (const char* stream : {"F", "V", "L"}) {
+    slotsOf(plant, stream).erase("TEMPERATURE");
+    slotsOf(plant, stream).erase("PRESSURE");
+  }
+  setVapor(plant, 10000, 0.5);
+  setLiquid(plant, 60000, 50);
+  return plant;
+}
+inline PlantJson verticalDrum() {
+  return sizingPlant("DVT", "CYLINDER");
+}
+inline PlantJson horizontalDrum() {
+  return sizingPlant("DHT", "HORIZ DRUM");
 }
 
 /// A vessel that a test can set values on and whose arithmetic it can reach.
@@ -144,9 +119,9 @@ class VesselUnderTest : public CVesObj {
   using CVesObj::st_sp_calculate_sphere_volume;
 };
 
-/// The vessel V-1 of a plant, alive with it.
-struct VesselAtHand : ItemAtHand<VesselUnderTest> {
-  explicit VesselAtHand(const PlantJson& json, int interactive = 0)
+/// The vessel V-1 of a plant, alive with it, and what its sizing tells.
+struct SizedVessel : ItemAtHand<VesselUnderTest> {
+  explicit SizedVessel(const PlantJson& json, int interactive = 0)
       : ItemAtHand(json, "V-1", interactive) {}
 
   VesselData& data() { return object->data(); }

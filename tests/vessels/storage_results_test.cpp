@@ -10,10 +10,10 @@ constexpr double kMetersInFoot = 0.3048;
 
 // A tank of known size: 10 by 20 ft and 1,500 CF.
 Plant knownPlant(const char* item, const char* category = "DVT") {
-  return vesselPlant(category, item);
+  return sizingPlant(category, item);
 }
-struct KnownTank : VesselAtHand {
-  explicit KnownTank(const Plant& json) : VesselAtHand(json) {
+struct KnownTank : SizedVessel {
+  explicit KnownTank(const Plant& json) : SizedVessel(json) {
     data().ves_dia = 10;
     data().ves_height = 20;
     data().capacity = 1500;
@@ -108,7 +108,7 @@ TEST(TankResults, Of_a_metric_project_are_metric) {
 }
 
 TEST(TankResults, Leave_out_what_is_not_positive) {
-  VesselAtHand tank(knownPlant("PLAST TANK"));
+  SizedVessel tank(knownPlant("PLAST TANK"));
   tank.data().ves_dia = -1;
   tank->SaveParameters();
   for (const char* slot :
@@ -159,7 +159,7 @@ TEST(TankResults, Hold_a_vacuum_from_just_below_14_6_PSI_on) {
   // a process drum within a hundredth of the limit has none
   Plant plant = verticalDrum();
   setPressure(plant, 14.599);
-  VesselAtHand drum(plant);
+  SizedVessel drum(plant);
   drum->Size();
   drum->SaveParameters();
   EXPECT_FALSE(drum.has(kVacuum));
@@ -183,7 +183,7 @@ TEST(SphereResults, Hold_criteria_volume_and_diameter) {
 TEST(SpheroidResults, Hold_criteria_volume_diameter_and_height) {
   KnownTank tank(knownPlant("SPHEROID"));
   EXPECT_EQ(tank.progressOf([](CVesObj& vessel) { vessel.SaveParameters(); }),
-            (VesselAtHand::Progress{
+            (SizedVessel::Progress{
                 {88, "Writing results."},
                 {89, "Writing capacity."},
                 {90, "Writing diameter."},
@@ -216,7 +216,7 @@ TEST(SphereResults, Hold_the_design_conditions_of_the_user_but_then_no_vacuum) {
     KnownTank tank(plant);
     tank->SaveParameters();
     EXPECT_DOUBLE_EQ(tank.number("CpDesignTemperature"), 300);
-    expectClose(tank.number("CpDesignGaugePressure"), 50 - kAtmosphere);
+    expectClose(tank.number("CpDesignGaugePressure"), 50 - kStandardAtmosphere);
     EXPECT_TRUE(tank.has("CpOperatingTemperature"));
     EXPECT_FALSE(tank.has(kVacuum)) << item;
   }

@@ -11,7 +11,7 @@ constexpr double kHeld = 864000;  // CF: 1,200 CF/H for thirty days
 constexpr double kTank = 960000;  // CF, a tenth of it free
 
 Plant storagePlant(const char* item = "STORAGE") {
-  return vesselPlant("DVT", item);
+  return sizingPlant("DVT", item);
 }
 double sphereOf(double diameter) {
   return kCirclePi / 6 * diameter * diameter * diameter;
@@ -21,7 +21,7 @@ double spheroidOf(double diameter, double height) {
 }
 void expectRefusal(const Plant& plant, const char* text, const VesselData& given) {
   for (const int interactive : {1, 0}) {
-    VesselAtHand tank(plant, interactive);
+    SizedVessel tank(plant, interactive);
     tank.data() = given;
     tank.expectRefusal(text, interactive != 0);
   }
@@ -32,7 +32,7 @@ void expectRefusal(const Plant& plant, const char* text, const VesselData& given
 TEST(Tank, Holds_thirty_days_of_liquid_below_a_tenth_of_vapor) {
   for (const char* item :
        {"STORAGE", "GAS HOLDER", "PLAST TANK", "WOOD TANK", "CONE BTM", "LIVE BTM", " storage "}) {
-    VesselAtHand tank(storagePlant(item));
+    SizedVessel tank(storagePlant(item));
     EXPECT_EQ(tank->Size(), 1);
     const double diameter = std::pow(kTank * 4 / (0.5 * kCirclePi), 0.33);  // 128.3
     EXPECT_EQ(tank.values().ves_dia, roundedUp(diameter)) << item;
@@ -47,8 +47,8 @@ TEST(Tank, Holds_thirty_days_of_liquid_below_a_tenth_of_vapor) {
 }
 
 TEST(Tank, Reports_its_progress) {
-  VesselAtHand tank(storagePlant());
-  EXPECT_EQ(tank.sizingProgress(), (VesselAtHand::Progress{
+  SizedVessel tank(storagePlant());
+  EXPECT_EQ(tank.sizingProgress(), (SizedVessel::Progress{
                                        {51, "Checking user specifications."},
                                        {53, "Obtaining holding time."},
                                        {55, "Determining vapor free space."},
@@ -69,7 +69,7 @@ TEST(Tank, Follows_the_criteria) {
                        {"Holding Hours in a Day", 8},
                        {"Number of Holding Days", 5},
                        {"Vapor Free Space (% of Total Storage Vessel Volume)", 20}};
-  VesselAtHand tank(plant);
+  SizedVessel tank(plant);
   EXPECT_EQ(tank->Size(), 1);
   EXPECT_EQ(tank.values().res_time, 2400);
   const double diameter = std::pow(60000 * 4 / (0.8 * kCirclePi), 0.33);  // 1,200 x 40 / 0.8
@@ -84,7 +84,7 @@ TEST(Tank, Guards_against_criteria_that_are_not_positive) {
                          {"Holding Hours in a Day", -1},
                          {"Number of Holding Days", -1},
                          {"Vapor Free Space (% of Total Storage Vessel Volume)", -1}};
-    VesselAtHand tank(plant);
+    SizedVessel tank(plant);
     EXPECT_EQ(tank->Size(), 1);
     EXPECT_EQ(tank.values().holding_days, 30) << item;
     EXPECT_EQ(tank.values().holding_hours, 24) << item;
@@ -103,7 +103,7 @@ TEST(Tank, Replaces_a_vapor_space_of_all_its_volume_by_a_tenth_without_a_word) {
     double used;
   };
   for (const Row& row : {Row{99.9, 99.9}, Row{100, 10}, Row{150, 10}, Row{0.1, 0.1}}) {
-    VesselAtHand tank(storagePlant(), 1);
+    SizedVessel tank(storagePlant(), 1);
     tank.data().vapor_free_space = row.given;
     tank.data().ves_dia = 100;
     EXPECT_EQ(tank->Size(), 1);
@@ -123,8 +123,8 @@ TEST(Tank, Holds_the_greater_of_what_comes_and_what_leaves) {
   for (const char* item : {"STORAGE", "SPHERE", "SPHEROID"}) {
     for (const Row& row : {Row{600, 1200}, Row{1200, 1200}, Row{3000, 3000}}) {
       Plant plant = storagePlant(item);
-      setPhase(plant, "LIQUID", "LIQUID", row.leaves * 50, 50);
-      VesselAtHand tank(plant);
+      setPhase(plant, "L", "LIQUID", row.leaves * 50, 50);
+      SizedVessel tank(plant);
       tank.data().ves_dia = 100;  // so that the volume stays
       EXPECT_EQ(tank->Size(), 1);
       const bool cylinder = std::string(item) == "STORAGE";
@@ -135,7 +135,7 @@ TEST(Tank, Holds_the_greater_of_what_comes_and_what_leaves) {
 }
 
 TEST(Tank, Of_a_user_capacity_and_diameter_has_the_height_of_them_and_nothing_rounded) {
-  VesselAtHand tank(storagePlant());
+  SizedVessel tank(storagePlant());
   tank.data().capacity = 1000;
   tank.data().ves_dia = 10.3;
   EXPECT_EQ(tank->Size(), 1);
@@ -146,7 +146,7 @@ TEST(Tank, Of_a_user_capacity_and_diameter_has_the_height_of_them_and_nothing_ro
 }
 
 TEST(Tank, Of_a_user_height_has_the_diameter_of_the_volume_and_nothing_rounded) {
-  VesselAtHand tank(storagePlant());
+  SizedVessel tank(storagePlant());
   tank.data().ves_height = 40.2;
   EXPECT_EQ(tank->Size(), 1);
   EXPECT_EQ(tank.values().ves_height, 40.2);
@@ -155,7 +155,7 @@ TEST(Tank, Of_a_user_height_has_the_diameter_of_the_volume_and_nothing_rounded) 
 }
 
 TEST(Tank, Of_both_user_dimensions_has_their_volume) {
-  VesselAtHand tank(storagePlant());
+  SizedVessel tank(storagePlant());
   tank.data().ves_dia = 20.3;
   tank.data().ves_height = 10.2;
   EXPECT_EQ(tank->Size(), 1);
@@ -165,7 +165,7 @@ TEST(Tank, Of_both_user_dimensions_has_their_volume) {
 }
 
 TEST(Tank, Of_a_user_capacity_alone_is_rounded_and_has_the_volume_of_that) {
-  VesselAtHand tank(storagePlant());
+  SizedVessel tank(storagePlant());
   tank.data().capacity = 1000;
   EXPECT_EQ(tank->Size(), 1);
   const double diameter = std::pow(1000 * 4 / (0.5 * kCirclePi), 0.33);  // 13.3
@@ -175,7 +175,7 @@ TEST(Tank, Of_a_user_capacity_alone_is_rounded_and_has_the_volume_of_that) {
 }
 
 TEST(Tank, Of_everything_from_the_user_stays_as_given) {
-  VesselAtHand tank(storagePlant());
+  SizedVessel tank(storagePlant());
   tank.data().capacity = 1000;
   tank.data().ves_dia = 7.1;
   tank.data().ves_height = 3.3;
@@ -198,7 +198,7 @@ TEST(Tank, Is_refused_without_a_volume_a_diameter_or_a_height) {
 }
 
 TEST(Tank, That_is_refused_keeps_what_it_has_reached) {
-  VesselAtHand tank(storagePlant());
+  SizedVessel tank(storagePlant());
   tank.data().ves_height = -3;
   EXPECT_EQ(tank->Size(), 0);
   expectClose(tank.values().capacity, kTank);
@@ -209,7 +209,7 @@ TEST(Tank, That_is_refused_keeps_what_it_has_reached) {
 
 TEST(Sphere, Holds_thirty_days_of_liquid_and_no_vapor) {
   for (const double space : {10.0, 50.0}) {
-    VesselAtHand sphere(storagePlant("SPHERE"));
+    SizedVessel sphere(storagePlant("SPHERE"));
     sphere.data().vapor_free_space = space;
     EXPECT_EQ(sphere->Size(), 1);
     EXPECT_EQ(sphere.values().ves_dia, roundedUp(std::pow(kHeld * 6 / kCirclePi, 0.33)));
@@ -221,8 +221,8 @@ TEST(Sphere, Holds_thirty_days_of_liquid_and_no_vapor) {
 }
 
 TEST(Sphere, Reports_its_progress) {
-  VesselAtHand sphere(storagePlant("SPHERE"));
-  EXPECT_EQ(sphere.sizingProgress(), (VesselAtHand::Progress{
+  SizedVessel sphere(storagePlant("SPHERE"));
+  EXPECT_EQ(sphere.sizingProgress(), (SizedVessel::Progress{
                                          {51, "Checking user specifications."},
                                          {55, "Determining liquid holding time."},
                                          {60, "Beginning detailed sizing of the equipment."},
@@ -234,7 +234,7 @@ TEST(Sphere, Reports_its_progress) {
 }
 
 TEST(Sphere, Of_a_user_diameter_has_its_volume) {
-  VesselAtHand sphere(storagePlant("sphere"));
+  SizedVessel sphere(storagePlant("sphere"));
   sphere.data().ves_dia = 40.3;
   EXPECT_EQ(sphere->Size(), 1);
   EXPECT_EQ(sphere.values().ves_dia, 40.3);
@@ -242,7 +242,7 @@ TEST(Sphere, Of_a_user_diameter_has_its_volume) {
 }
 
 TEST(Sphere, Of_a_user_capacity_is_rounded_and_has_the_volume_of_that) {
-  VesselAtHand sphere(storagePlant("SPHERE"));
+  SizedVessel sphere(storagePlant("SPHERE"));
   sphere.data().capacity = 1000;
   EXPECT_EQ(sphere->Size(), 1);
   EXPECT_NEAR(std::pow(6000 / kCirclePi, 0.33), 12.1, 0.05);
@@ -251,7 +251,7 @@ TEST(Sphere, Of_a_user_capacity_is_rounded_and_has_the_volume_of_that) {
 }
 
 TEST(Sphere, Of_a_user_capacity_and_diameter_stays_as_given) {
-  VesselAtHand sphere(storagePlant("SPHERE"));
+  SizedVessel sphere(storagePlant("SPHERE"));
   sphere.data().capacity = 1000;
   sphere.data().ves_dia = 40.3;
   EXPECT_EQ(sphere->Size(), 1);
@@ -262,7 +262,7 @@ TEST(Sphere, Of_a_user_capacity_and_diameter_stays_as_given) {
 TEST(Sphere, Of_a_negative_diameter_keeps_it_though_it_does_not_count_as_given) {
   Plant plant = storagePlant("SPHERE");
   recordOf(plant)["CpVesselDiameter"] = Plant::array({-5, "FEET"});
-  VesselAtHand sphere(plant);
+  SizedVessel sphere(plant);
   sphere->GetLastInfo();
   EXPECT_EQ(sphere->Size(), 1);
   EXPECT_EQ(sphere.values().ves_dia, -5);
@@ -281,7 +281,7 @@ TEST(Sphere, Without_liquid_is_refused) {
 
 TEST(Spheroid, Holds_thirty_days_of_liquid_and_no_vapor) {
   for (const double space : {10.0, 50.0}) {
-    VesselAtHand tank(storagePlant("SPHEROID"));
+    SizedVessel tank(storagePlant("SPHEROID"));
     tank.data().vapor_free_space = space;
     EXPECT_EQ(tank->Size(), 1);
     const double diameter = std::pow(kHeld * 6 / (0.16 * kCirclePi), 0.33);  // 206.3
@@ -294,8 +294,8 @@ TEST(Spheroid, Holds_thirty_days_of_liquid_and_no_vapor) {
 }
 
 TEST(Spheroid, Reports_its_progress) {
-  VesselAtHand tank(storagePlant("SPHEROID"));
-  EXPECT_EQ(tank.sizingProgress(), (VesselAtHand::Progress{
+  SizedVessel tank(storagePlant("SPHEROID"));
+  EXPECT_EQ(tank.sizingProgress(), (SizedVessel::Progress{
                                        {51, "Checking user specifications."},
                                        {52, "Determining height over diameter ratio."},
                                        {55, "Determining liquid holding time."},
@@ -311,14 +311,14 @@ TEST(Spheroid, Reports_its_progress) {
 }
 
 TEST(Spheroid, Of_one_user_dimension_has_the_other_from_the_volume_and_nothing_rounded) {
-  VesselAtHand wide(storagePlant("SPHEROID"));
+  SizedVessel wide(storagePlant("SPHEROID"));
   wide.data().ves_dia = 150.3;
   EXPECT_EQ(wide->Size(), 1);
   EXPECT_EQ(wide.values().ves_dia, 150.3);
   expectClose(wide.values().ves_height, std::sqrt(kHeld * 6 / kCirclePi / 150.3));
   expectClose(wide.values().capacity, kHeld);
 
-  VesselAtHand tall(storagePlant("SPHEROID"));
+  SizedVessel tall(storagePlant("SPHEROID"));
   tall.data().ves_height = 90.2;
   EXPECT_EQ(tall->Size(), 1);
   EXPECT_EQ(tall.values().ves_height, 90.2);
@@ -327,7 +327,7 @@ TEST(Spheroid, Of_one_user_dimension_has_the_other_from_the_volume_and_nothing_r
 }
 
 TEST(Spheroid, Of_both_user_dimensions_has_their_volume) {
-  VesselAtHand tank(storagePlant("SPHEROID"));
+  SizedVessel tank(storagePlant("SPHEROID"));
   tank.data().ves_dia = 50.3;
   tank.data().ves_height = 20.2;
   EXPECT_EQ(tank->Size(), 1);
@@ -339,7 +339,7 @@ TEST(Spheroid, Of_both_user_dimensions_has_their_volume) {
 TEST(Spheroid, Of_a_user_capacity_and_slenderness_follows_them) {
   Plant plant = storagePlant("SPHEROID");
   criteriaOf(plant)["Storage Vessel Height to Diameter Ratio"] = 0.6;
-  VesselAtHand tank(plant);
+  SizedVessel tank(plant);
   tank.data().capacity = 20000;
   EXPECT_EQ(tank->Size(), 1);
   const double diameter = std::pow(120000 / (0.36 * kCirclePi), 0.33);
@@ -348,7 +348,7 @@ TEST(Spheroid, Of_a_user_capacity_and_slenderness_follows_them) {
 }
 
 TEST(Spheroid, Of_a_negative_dimension_keeps_it_though_it_does_not_count_as_given) {
-  VesselAtHand tank(storagePlant("SPHEROID"));
+  SizedVessel tank(storagePlant("SPHEROID"));
   tank.data().ves_height = -20.2;
   EXPECT_EQ(tank->Size(), 1);
   EXPECT_EQ(tank.values().ves_height, -20);  // rounded up, as what is not given

@@ -31,7 +31,7 @@ Plant drumWithLiquid(double height) {
 }
 
 TEST(VerticalDrum, Holds_the_liquid_of_the_residence_time_below_its_vapor_space) {
-  VesselAtHand drum(verticalDrum());
+  SizedVessel drum(verticalDrum());
   EXPECT_EQ(drum->Size(), 1);
   // pi/4 (3 D^3 - 2 D^2) = 200 has its root at 4.62864
   const double unrounded = 4.62864;
@@ -46,7 +46,7 @@ TEST(VerticalDrum, Holds_the_liquid_of_the_residence_time_below_its_vapor_space)
 }
 
 TEST(VerticalDrum, Reports_each_step_of_its_calculation) {
-  VesselAtHand drum(verticalDrum());
+  SizedVessel drum(verticalDrum());
   EXPECT_EQ(drum->Size(), 1);
   EXPECT_EQ(drum.calculations(),
             (Texts{"ves_dia(based on vapor flow) =  1.79 ft; ves_dia(based on L/D and Liq.flow) =  "
@@ -65,9 +65,9 @@ TEST(VerticalDrum, Reports_each_step_of_its_calculation) {
 }
 
 TEST(VerticalDrum, Reports_its_progress) {
-  VesselAtHand drum(verticalDrum());
+  SizedVessel drum(verticalDrum());
   EXPECT_EQ(drum.sizingProgress(),
-            (VesselAtHand::Progress{
+            (SizedVessel::Progress{
                 {51, "Checking user specifications."},
                 {53, "Checking vessel configuration."},
                 {53, "Beginning vertical vessel design."},
@@ -100,7 +100,7 @@ TEST(VerticalDrum, Without_liquid_is_sized_by_its_vapor_and_the_least_liquid_hei
   Plant plant = verticalDrum();
   removeLiquid(plant);
   setVapor(plant, 100000, 0.5);
-  VesselAtHand drum(plant);
+  SizedVessel drum(plant);
   EXPECT_EQ(drum->Size(), 1);
   const double velocity = kDryKv * std::sqrt((62.4 - 0.5) / 0.5) * 3600;
   const double diameter = std::sqrt(200000 / velocity * 4 / kCirclePi);
@@ -126,7 +126,7 @@ TEST(VerticalDrum, Takes_its_diameter_from_the_vapor_velocity_when_that_needs_mo
   setVapor(plant, 1e6, 0.5);
   setLiquid(plant, 6e6, 50);
   criteriaOf(plant)["Residence Time"] = Plant::array({0.01, "MINUTE"});
-  VesselAtHand drum(plant);
+  SizedVessel drum(plant);
   drum->Size();
   const double velocity = kKv * std::sqrt(99) * 3600;
   const double diameter = std::sqrt(100 * kVapor / velocity * 4 / kCirclePi);
@@ -145,7 +145,7 @@ TEST(VerticalDrum, Counts_every_height_above_the_liquid) {
                        {"Ht. Btw Inlet Nozzle and High Liquid Level Tap", {3, "FEET"}},
                        {"Ht. Btw Low Liquid Level Tap and Tangent Line", {1, "FEET"}},
                        {"Minimum Ht. Btw Low and High Liquid Level Taps", {30, "FEET"}}};
-  VesselAtHand drum(plant);
+  SizedVessel drum(plant);
   drum.data().ves_dia = 5;
   EXPECT_EQ(drum->Size(), 1);
   EXPECT_EQ(drum.values().ves_height, 30 + 1 + 5.5);
@@ -163,7 +163,7 @@ TEST(VerticalDrum, Lifts_its_liquid_to_the_least_height_only_when_that_is_greate
   };
   for (const Row& row : {Row{3.9, true, 6.5}, Row{4.0 + 1e-6, false, 7}, Row{4.4, false, 7}}) {
     Plant plant = drumWithLiquid(row.liquid);
-    VesselAtHand drum(plant);
+    SizedVessel drum(plant);
     drum.data().ves_dia = 5;
     EXPECT_EQ(drum->Size(), 1);
     EXPECT_EQ(drum.values().ves_height, row.height) << row.liquid;
@@ -176,8 +176,8 @@ TEST(VerticalDrum, Lifts_its_liquid_to_the_least_height_only_when_that_is_greate
 
 TEST(VerticalDrum, Uses_the_inlet_liquid_when_no_liquid_leaves) {
   Plant plant = verticalDrum();
-  plant["streams"]["LIQUID"]["slots"] = Plant::object();
-  VesselAtHand drum(plant);
+  plant["streams"]["L"]["slots"] = Plant::object();
+  SizedVessel drum(plant);
   drum.data().ves_dia = 5;
   drum->Size();
   const double height = kHeld / cylinderOf(5, 1) + 2.5;
@@ -187,8 +187,8 @@ TEST(VerticalDrum, Uses_the_inlet_liquid_when_no_liquid_leaves) {
 
 TEST(VerticalDrum, Prefers_the_leaving_liquid_even_where_more_comes_in) {
   Plant plant = verticalDrum();
-  setPhase(plant, "LIQUID", "LIQUID", 30000, 50);
-  VesselAtHand drum(plant);
+  setPhase(plant, "L", "LIQUID", 30000, 50);
+  SizedVessel drum(plant);
   drum.data().ves_dia = 5;
   drum->Size();
   EXPECT_TRUE(drum.told(formatText("Totvesht(%5.2f ft)=htliq(%5.2f ft)+ht_vap( 2.00 ft)",
@@ -199,7 +199,7 @@ TEST(VerticalDrum, Prefers_the_leaving_liquid_even_where_more_comes_in) {
 // --- What the user gives ------------------------------------------------------------------------
 
 TEST(VerticalDrum, Of_a_user_diameter_keeps_it_unrounded_and_rounds_the_height) {
-  VesselAtHand drum(verticalDrum());
+  SizedVessel drum(verticalDrum());
   drum.data().ves_dia = 4.3;
   EXPECT_EQ(drum->Size(), 1);
   EXPECT_EQ(drum.values().ves_dia, 4.3);
@@ -212,7 +212,7 @@ TEST(VerticalDrum, Of_a_user_diameter_keeps_it_unrounded_and_rounds_the_height) 
 }
 
 TEST(VerticalDrum, Of_a_user_height_keeps_it_and_fits_the_liquid_below_the_vapor_space) {
-  VesselAtHand drum(verticalDrum());
+  SizedVessel drum(verticalDrum());
   drum.data().ves_height = 12.3;
   EXPECT_EQ(drum->Size(), 1);
   const double diameter = std::sqrt(kHeld / (12.3 - kVaporHeight) * 4 / kCirclePi);  // 4.97
@@ -228,7 +228,7 @@ TEST(VerticalDrum, Of_a_user_height_keeps_it_and_fits_the_liquid_below_the_vapor
 
 TEST(VerticalDrum, Of_a_user_height_within_the_vapor_space_has_no_liquid_diameter) {
   for (const double height : {2.0, 1.0}) {
-    VesselAtHand drum(verticalDrum());
+    SizedVessel drum(verticalDrum());
     drum.data().ves_height = height;
     drum->Size();
     EXPECT_TRUE(
@@ -241,7 +241,7 @@ TEST(VerticalDrum, Of_a_user_height_within_the_vapor_space_has_no_liquid_diamete
 TEST(VerticalDrum, Of_a_user_capacity_and_height_is_geometry_without_a_least_diameter) {
   Plant plant = verticalDrum();
   criteriaOf(plant)["Minimum vessel diameter"] = Plant::array({9, "FEET"});
-  VesselAtHand drum(plant);
+  SizedVessel drum(plant);
   drum.data().capacity = 300;
   drum.data().ves_height = 12;
   EXPECT_EQ(drum->Size(), 1);
@@ -255,7 +255,7 @@ TEST(VerticalDrum, Of_a_user_capacity_and_height_is_geometry_without_a_least_dia
 }
 
 TEST(VerticalDrum, Of_a_user_capacity_has_no_vapor_space_above_it) {
-  VesselAtHand drum(verticalDrum());
+  SizedVessel drum(verticalDrum());
   drum.data().capacity = cylinderOf(4.2, kRatio * 4.2);
   EXPECT_EQ(drum->Size(), 1);
   EXPECT_TRUE(
@@ -270,7 +270,7 @@ TEST(VerticalDrum, Of_a_user_capacity_has_no_vapor_space_above_it) {
 TEST(VerticalDrum, Of_a_user_capacity_but_no_liquid_is_sized_by_its_vapor) {
   Plant plant = verticalDrum();
   removeLiquid(plant);
-  VesselAtHand drum(plant);
+  SizedVessel drum(plant);
   drum.data().capacity = 400;
   drum->Size();
   EXPECT_EQ(drum.timesTold(kNoLiquid), 1);
@@ -280,7 +280,7 @@ TEST(VerticalDrum, Of_a_user_capacity_but_no_liquid_is_sized_by_its_vapor) {
 }
 
 TEST(VerticalDrum, Ignores_area_ratio_and_multiplier) {
-  VesselAtHand drum(verticalDrum());
+  SizedVessel drum(verticalDrum());
   drum.data().r_vc = 0.2;
   drum.data().sep_factor_mult = 4;
   drum->Size();
@@ -296,7 +296,7 @@ TEST(VerticalDrum, Guards_against_a_ratio_and_a_residence_time_that_are_not_posi
     Plant plant = verticalDrum();
     criteriaOf(plant)["Residence Time"] = Plant::array({criterion, "MINUTE"});
     criteriaOf(plant)["Process Vessel Height to Diameter Ratio"] = criterion;
-    VesselAtHand drum(plant);
+    SizedVessel drum(plant);
     EXPECT_EQ(drum->Size(), 1);
     EXPECT_EQ(drum.values().res_time, 5);
     EXPECT_EQ(drum.values().ht_dia_ratio, 3);
@@ -307,7 +307,7 @@ TEST(VerticalDrum, Guards_against_a_ratio_and_a_residence_time_that_are_not_posi
 TEST(VerticalDrum, Without_any_flow_to_size_by_has_no_size_and_is_not_refused) {
   Plant plant = verticalDrum();
   removeVapor(plant);
-  VesselAtHand drum(plant);
+  SizedVessel drum(plant);
   drum.data().ves_height = 1;  // within the vapor space
   EXPECT_EQ(drum->Size(), 1);
   EXPECT_EQ(drum.values().ves_dia, 0);
@@ -331,7 +331,7 @@ TEST(VerticalDrum, Without_any_flow_to_size_by_has_no_size_and_is_not_refused) {
 TEST(VerticalDrum, Has_no_boot) {
   Plant plant = verticalDrum();
   addHeavyLiquid(plant, 6240, 62.4);
-  VesselAtHand drum(plant);
+  SizedVessel drum(plant);
   drum.data().boot_dia = 1.2;
   drum.data().boot_ht = 2.2;
   EXPECT_EQ(drum->Size(), 1);
@@ -342,7 +342,7 @@ TEST(VerticalDrum, Has_no_boot) {
 TEST(VerticalDrum, Shows_its_warnings_when_it_may) {
   Plant plant = drumWithLiquid(3.5);
   for (const int interactive : {1, 0}) {
-    VesselAtHand drum(plant, interactive);
+    SizedVessel drum(plant, interactive);
     drum.data().ves_dia = 5;
     drum->Size();
     EXPECT_EQ(drum.warnings().size(), 4U);
@@ -361,7 +361,7 @@ TEST(VerticalDrum, Shows_its_warnings_when_it_may) {
 
 TEST(VerticalDrum, Is_every_vessel_that_no_other_rule_takes) {
   for (const char* category : {"DVT", "EVT", "dvt", "XYZ"}) {
-    VesselAtHand drum(vesselPlant(category, "WHATEVER"));
+    SizedVessel drum(sizingPlant(category, "WHATEVER"));
     EXPECT_EQ(drum->Size(), 1);
     EXPECT_TRUE(drum.told(kLiquidHeight)) << category;
   }

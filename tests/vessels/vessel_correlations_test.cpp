@@ -77,6 +77,12 @@ TEST(VaporLoadFactor, Follows_the_published_curve) {
   for (const KvRow& row : kLoadFactors) expectClose(vaporLoadFactor(row.factor), row.kv, 1e-13);
 }
 
+// Read off the curve in print: about 0.4 FT/S near a factor of 0.1, a tenth of it at 3.
+TEST(VaporLoadFactor, Stays_near_the_drawn_curve) {
+  EXPECT_NEAR(vaporLoadFactor(0.1), 0.42, 0.03);
+  EXPECT_NEAR(vaporLoadFactor(3.0), 0.045, 0.01);
+}
+
 TEST(VaporLoadFactor, Has_one_maximum_between_the_ends_of_its_range) {
   double last = vaporLoadFactor(0.006);
   bool falls = false;
@@ -182,6 +188,11 @@ TEST(CubicRoots, Known_by_hand_are_found) {
   EXPECT_NEAR(findRoot({1, -14, 49, -36}, 0, 3).x, 1, kStep);
   EXPECT_NEAR(findRoot({1, -14, 49, -36}, 2, 7).x, 4, kStep);
   EXPECT_NEAR(findRoot({1, -14, 49, -36}, 6, 50).x, 9, kStep);
+}
+
+TEST(CubicRoots, Next_to_a_flat_place_are_found) {
+  // (x - 10)^3 = 0.001
+  EXPECT_NEAR(findRoot({1, -30, 300, -1000.001}, 0, 50).x, 10.1, 1e-4);
 }
 
 TEST(CubicRoots, Of_a_drum_agree_with_the_closed_form_over_a_wide_range) {
@@ -310,7 +321,7 @@ TEST(CubicValue, Is_written_to_the_outputs_but_added_to_them_without_a_third_pow
 TEST(DrumRoot, Warns_where_the_bounds_hold_none_or_the_rounds_run_out) {
   constexpr const char* kOutside = "Diameter is outside range 0 to 1000 feet.";
   constexpr const char* kExhausted = "Maximum iteration exceeded.";
-  VesselAtHand drum(verticalDrum(), 1);
+  SizedVessel drum(verticalDrum(), 1);
   const auto rootOf = [&](double upper, double a0) {
     return drum->proc_vs_cal_root_3rd_order_polynoimial_by_mnr(0, upper, 1, 0, 0, a0);
   };
@@ -323,7 +334,7 @@ TEST(DrumRoot, Warns_where_the_bounds_hold_none_or_the_rounds_run_out) {
   const std::vector<std::pair<std::string, int>> shown = {{kOutside, 48}, {kExhausted, 48}};
   EXPECT_EQ(drum.boxes(), shown);
 
-  VesselAtHand silent(verticalDrum(), 0);
+  SizedVessel silent(verticalDrum(), 0);
   EXPECT_EQ(silent->proc_vs_cal_root_3rd_order_polynoimial_by_mnr(0, 50, 1, 0, 0, -200000), 0);
   EXPECT_EQ(silent.warnings(), Texts{kOutside});
   EXPECT_TRUE(silent.boxes().empty());
