@@ -205,6 +205,7 @@ void CVesObj::writeTankVolume() {
     const char* units = unitType == 0 ? "GALLONS" : "M3";
     if (component != nullptr) component->SetValue("CpVolumeUnits", units, 0);
     status(90, "Writing capacity.");
+    // kept: in place, so that results written twice are converted twice
     data().capacity = converted(data().capacity, "CF", units);
     writeResult("CpLiquidVolume", data().capacity, When::positive, Style::plain, nullptr, nullptr,
                 nullptr);

@@ -82,7 +82,14 @@ TEST(TankResults, Of_a_storage_tank_tell_the_unit_of_the_volume_beside_it) {
   EXPECT_EQ(tank.text("CpVolumeUnits"), "GALLONS");
   expectClose(tank.number("CpLiquidVolume"), 1500 * kGallonsInCubicFoot);
   EXPECT_EQ(tank.units("CpLiquidVolume"), "");
-  expectClose(tank.values().capacity, 1500 * kGallonsInCubicFoot);  // converted in place
+}
+
+TEST(TankResults, Of_a_storage_tank_are_converted_in_place_and_again_when_written_again) {
+  KnownTank tank(knownPlant("STORAGE"));
+  tank->SaveParameters();
+  expectClose(tank.values().capacity, 1500 * kGallonsInCubicFoot);
+  tank->SaveParameters();
+  expectClose(tank.number("CpLiquidVolume"), 1500 * squareOf(kGallonsInCubicFoot));
 }
 
 TEST(TankResults, Of_a_metric_project_are_metric) {
