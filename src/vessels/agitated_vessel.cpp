@@ -5,7 +5,6 @@
 #include "sizewright/host/text.h"
 #include "sizewright/host/units.h"
 #include "sizewright/vessels/vessel.h"
-#include "sizewright/vessels/vessel_correlations.h"
 
 namespace sizewright {
 
@@ -38,7 +37,8 @@ int CVesObj::agvs_siz() {
   const bool hasDiameter = vessel.ves_dia > 0.0;
   const bool hasHeight = vessel.ves_height > 0.0;
   status(67, "Estimating vessel volume.");
-  if (!(vessel.capacity > 0.0)) vessel.capacity = heldVolume(vessel.res_time, largerLiquidFlow());
+  if (!(vessel.capacity > 0.0))
+    vessel.capacity = proc_ves_determine_liq_vol(vessel.res_time, largerLiquidFlow());
   if (!(vessel.capacity > 0.0)) {
     return refuse("Vessel capacity cannot be calculated. Please check stream flows.");
   }
@@ -65,7 +65,7 @@ int CVesObj::agvs_siz() {
     vessel.ves_height = compiler_round_up_by_half(vessel.ves_height);
     vessel.ves_dia = compiler_round_up_by_half(vessel.ves_dia);
   }
-  vessel.capacity = cylinderVolume(vessel.ves_dia, vessel.ves_height);
+  vessel.capacity = determine_cylinder_capacity(vessel.ves_dia, vessel.ves_height);
   status(75, "Determined vessel height and diameter.");
   return 1;
 }

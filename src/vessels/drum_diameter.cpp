@@ -4,7 +4,6 @@
 #include "sizewright/host/messages.h"
 #include "sizewright/host/text.h"
 #include "sizewright/vessels/vessel.h"
-#include "sizewright/vessels/vessel_correlations.h"
 
 namespace sizewright {
 
@@ -163,11 +162,11 @@ double CVesObj::proc_vs_determine_vap_vel_particle_size_separation(double densit
 double CVesObj::liquidDiameter(double capacity, double ratio, double residence, double areaRatio,
                                double vaporHeight) {
   if (!isHorizontal()) {
-    const double volume = heldVolume(residence, liquidFlowOrNote());
+    const double volume = proc_ves_determine_liq_vol(residence, liquidFlowOrNote());
     return volume > 0.0 ? proc_vs_calc_dia_from_liq_vol(capacity, volume, ratio, vaporHeight) : 0.0;
   }
   if (!(capacity > 0.0)) {
-    capacity = heldVolume(residence, liquidFlowOrNote()) / (1.0 - areaRatio);
+    capacity = proc_ves_determine_liq_vol(residence, liquidFlowOrNote()) / (1.0 - areaRatio);
   }
   const double length = data().ves_height;
   return length > 0.0 ? compiler_pow_double(capacity * kFourOverPi * (1.0 / length), kSquareRoot)

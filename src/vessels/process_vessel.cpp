@@ -6,7 +6,6 @@
 #include "sizewright/host/text.h"
 #include "sizewright/host/units.h"
 #include "sizewright/vessels/vessel.h"
-#include "sizewright/vessels/vessel_correlations.h"
 
 namespace sizewright {
 
@@ -61,7 +60,7 @@ int CVesObj::proc_vs() {
     roundUpAndTell(vessel.ves_height, "Calc vessel ht rounded up by 1/2 ft");
   }
   status(87, "Determining vessel capacity.");
-  vessel.capacity = cylinderVolume(vessel.ves_dia, vessel.ves_height);
+  vessel.capacity = determine_cylinder_capacity(vessel.ves_dia, vessel.ves_height);
   if (horizontal) {
     status(85, "Rounding up boot dimensions.");
     // kept: also what the user gave, and the note comes once for each
@@ -70,6 +69,12 @@ int CVesObj::proc_vs() {
   }
   status(90, "Completed vessel sizing...");
   return 1;
+}
+
+int CVesObj::proc_vs_check_hd_ratio(double limit, double diameter, double height) {
+  const double ratio = height / diameter;
+  if (limit > ratio) return -1;
+  return ratio > limit ? 1 : 0;
 }
 
 void CVesObj::roundUpAndTell(double& size, const char* note) {
@@ -136,7 +141,7 @@ void CVesObj::setHorizontalLength(double ratio, double residence) {
     setLengthByRatio(ratio);
     return;
   }
-  drum.capacity = heldVolume(residence, flow) / (1.0 - drum.r_vc);
+  drum.capacity = proc_ves_determine_liq_vol(residence, flow) / (1.0 - drum.r_vc);
   drum.ves_height = cylinderHeight(drum.capacity, square);
   if (drum.ves_dia < drum.ves_height) {
     tell(calculations,
@@ -165,7 +170,7 @@ int CVesObj::proc_vs_size_boot(double residence) {
   status(70, "Checking design criteria file for bootleg sizing parameters.");
   status(72, "Checking for heavy liquid phase volume.");
   const double heavyFlow = drum.total_exit_heavy_liq_vol_flow;
-  const double heavy = heavyFlow > 0.0 ? heldVolume(residence, heavyFlow) : 0.0;
+  const double heavy = heavyFlow > 0.0 ? proc_ves_determine_liq_vol(residence, heavyFlow) : 0.0;
   status(74, "Determining boot diameter.");
   if (!(drum.boot_dia > 0.0)) {
     if (!(heavy > 0.0)) {
@@ -226,7 +231,8 @@ void CVesObj::setVerticalHeight(double residence) {
     drum.ves_height = cylinderHeight(drum.capacity, square);
     return;
   }
-  double liquid = cylinderHeight(heldVolume(residence, exitOrInletLiquid()), square);
+  double liquid =
+      cylinderHeight(proc_ves_determine_liq_vol(residence, exitOrInletLiquid()), square);
   tell(calculations, "Liq. ht calculated based on liq vol(res time) and ves dia calculated.");
   if (liquid < drum.min_liq_ht) {
     const std::string text = formatText(

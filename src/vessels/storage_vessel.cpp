@@ -5,7 +5,6 @@
 #include "sizewright/host/messages.h"
 #include "sizewright/host/units.h"
 #include "sizewright/vessels/vessel.h"
-#include "sizewright/vessels/vessel_correlations.h"
 
 namespace sizewright {
 
@@ -71,9 +70,10 @@ int CVesObj::stor_vs() {
   status(60, "Beginning detailed sizing of the equipment.");
   status(61, "Determining vessel volume.");
   if (!(tank.capacity > 0.0)) {
-    tank.capacity = hasDiameter && hasHeight ? cylinderVolume(tank.ves_dia, tank.ves_height)
-                                             : heldVolume(tank.res_time, largerLiquidFlow()) *
-                                                   (100.0 / (100.0 - tank.vapor_free_space));
+    tank.capacity = hasDiameter && hasHeight
+                        ? determine_cylinder_capacity(tank.ves_dia, tank.ves_height)
+                        : proc_ves_determine_liq_vol(tank.res_time, largerLiquidFlow()) *
+                              (100.0 / (100.0 - tank.vapor_free_space));
   }
   if (!(tank.capacity > 0.0)) return refuse(kNoCapacity);
 
@@ -97,7 +97,7 @@ int CVesObj::stor_vs() {
     roundUp(tank.ves_height);
     roundUp(tank.ves_dia);
     status(80, "Calculating vessel capacity.");
-    tank.capacity = cylinderVolume(tank.ves_dia, tank.ves_height);
+    tank.capacity = determine_cylinder_capacity(tank.ves_dia, tank.ves_height);
   }
   return 1;
 }
@@ -117,8 +117,8 @@ int CVesObj::st_sp() {
   status(60, "Beginning detailed sizing of the equipment.");
   status(61, "Determining vessel volume.");
   if (sphere.capacity == 0.0) {
-    sphere.capacity =
-        hasDiameter ? sphereVolume(sphere.ves_dia) : heldVolume(holding, largerLiquidFlow());
+    sphere.capacity = hasDiameter ? st_sp_calculate_sphere_volume(sphere.ves_dia)
+                                  : proc_ves_determine_liq_vol(holding, largerLiquidFlow());
   }
   if (sphere.capacity == 0.0) return refuse(kNoCapacity);
   status(65, "Obtaining diameter of the equipment.");
@@ -130,7 +130,7 @@ int CVesObj::st_sp() {
   status(80, "Calculating vessel capacity.");
   if (!hasDiameter) {
     roundUp(sphere.ves_dia);
-    sphere.capacity = sphereVolume(sphere.ves_dia);
+    sphere.capacity = st_sp_calculate_sphere_volume(sphere.ves_dia);
   }
   return 1;
 }
@@ -148,8 +148,9 @@ int CVesObj::spheroid() {
   status(60, "Beginning detailed sizing of the equipment.");
   status(61, "Determining vessel volume.");
   if (tank.capacity == 0.0) {
-    tank.capacity = hasDiameter && hasHeight ? spheroidVolume(tank.ves_dia, tank.ves_height)
-                                             : heldVolume(holding, largerLiquidFlow());
+    tank.capacity = hasDiameter && hasHeight
+                        ? spheroid_cal_vol(tank.ves_dia, tank.ves_height)
+                        : proc_ves_determine_liq_vol(holding, largerLiquidFlow());
   }
   if (tank.capacity == 0.0) return refuse(kNoCapacity);
 
@@ -175,7 +176,7 @@ int CVesObj::spheroid() {
   if (!hasDiameter && !hasHeight) {
     roundUp(tank.ves_height);
     roundUp(tank.ves_dia);
-    tank.capacity = spheroidVolume(tank.ves_dia, tank.ves_height);
+    tank.capacity = spheroid_cal_vol(tank.ves_dia, tank.ves_height);
   }
   return 1;
 }
@@ -204,6 +205,7 @@ void CVesObj::writeTankVolume() {
     const char* units = unitType == 0 ? "GALLONS" : "M3";
     if (component != nullptr) component->SetValue("CpVolumeUnits", units, 0);
     status(90, "Writing capacity.");
+    // kept: in place, so that results written twice are converted twice
     data().capacity = converted(data().capacity, "CF", units);
     writeResult("CpLiquidVolume", data().capacity, When::positive, Style::plain, nullptr, nullptr,
                 nullptr);

@@ -3,6 +3,7 @@
 #include <string_view>
 
 #include "sizewright/frame/sizing_item.h"
+#include "sizewright/vessels/vessel_correlations.h"
 #include "sizewright/vessels/vessel_data.h"
 
 namespace sizewright {
@@ -33,6 +34,30 @@ class CVesObj : public SizingItem<VesselData, ExitRelease::abandoned> {
   /// Each replaces a list by a copy of the one given; 0 for a null or empty list.
   int SetInletStreams(void* list) { return replaceListUnlessEmpty(inlets(), list); }
   int SetExitStreams(void* list) { return replaceListUnlessEmpty(exits(), list); }
+
+ protected:
+  // --- Geometry: lengths in FEET, volumes in CF, flows in CF/H, times in minutes ---
+  static double determine_cylinder_capacity(double diameter, double height) {
+    return cylinderVolume(diameter, height);
+  }
+  static double st_sp_calculate_sphere_volume(double diameter) { return sphereVolume(diameter); }
+  static double spheroid_cal_vol(double diameter, double height) {
+    return spheroidVolume(diameter, height);
+  }
+  static double proc_ves_determine_liq_vol(double minutes, double flow) {
+    return heldVolume(minutes, flow);
+  }
+  /// Compares a limit with the slenderness: -1 when the limit is greater, 1 when it is less, 0 when
+  /// they are equal. No sizing path asks.
+  static int proc_vs_check_hd_ratio(double limit, double diameter, double height);
+  static void func_3rd_order_polynomial(double a3, double a2, double a1, double a0, double x,
+                                        double* f, double* df) {
+    evaluate({a3, a2, a1, a0}, x, *f, *df);
+  }
+  /// The root that `findRoot` gives; a warning, and 0, where the bounds do not bracket it, a
+  /// warning where the rounds do not suffice.
+  double proc_vs_cal_root_3rd_order_polynoimial_by_mnr(double lower, double upper, double a3,
+                                                       double a2, double a1, double a0);
 
  private:
   // --- Roads ---
@@ -110,8 +135,6 @@ class CVesObj : public SizingItem<VesselData, ExitRelease::abandoned> {
   double proc_vs_determine_vap_vel_particle_size_separation(double density, double liquidDensity);
   double proc_vs_calc_dia_from_liq_vol(double capacity, double liquidVolume, double ratio,
                                        double vaporHeight);
-  double proc_vs_cal_root_3rd_order_polynoimial_by_mnr(double lower, double upper, double a3,
-                                                       double a2, double a1, double a0);
   [[nodiscard]] double exitOrInletLiquid() const;
   double liquidFlowOrNote();
   void roundUpAndTell(double& size, const char* note);

@@ -12,7 +12,6 @@ namespace {
 constexpr double kPi = 3.1415926536;
 constexpr double kQuarterPi = 0.7853981634;
 constexpr double kSixthPi = 0.5235987756;
-constexpr double kGravity = 4.17118e8;  // FT/H2
 constexpr double kViscosity = 0.05;
 constexpr int kRounds = 100;
 constexpr double kCloseEnough = 1e-05;
@@ -57,15 +56,15 @@ double entrainmentVelocity(double kv, double multiplier, double liquidDensity,
 
 SettlingVelocity settlingVelocity(double particleDiameter, double vaporDensity,
                                   double liquidDensity) {
+  const double gravity = 4.17118 * power(10.0, 8.0);  // FT/H2
   const double difference = liquidDensity - vaporDensity;
   const double k =
-      particleDiameter * power(kGravity * vaporDensity * difference / power(kViscosity, 2.0), 0.33);
+      particleDiameter * power(gravity * vaporDensity * difference / power(kViscosity, 2.0), 0.33);
   if (k < 3.0) {
-    return {kGravity * difference * power(particleDiameter, 2.0) / (18.0 * kViscosity),
+    return {gravity * difference * power(particleDiameter, 2.0) / (18.0 * kViscosity),
             SettlingRegime::viscous};
   }
-  const double velocity =
-      1.74 * power(kGravity * particleDiameter * difference / vaporDensity, 0.5);
+  const double velocity = 1.74 * power(gravity * particleDiameter * difference / vaporDensity, 0.5);
   return {velocity, k > 70.0 ? SettlingRegime::turbulent : SettlingRegime::intermediate};
 }
 

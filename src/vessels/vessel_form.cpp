@@ -4,7 +4,6 @@
 #include "sizewright/host/list2.h"
 #include "sizewright/host/text.h"
 #include "sizewright/vessels/vessel.h"
-#include "sizewright/vessels/vessel_correlations.h"
 
 namespace sizewright {
 

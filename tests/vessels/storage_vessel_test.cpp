@@ -1,275 +1,371 @@
-#include <gtest/gtest.h>
+#include <array>
 
-#include <cmath>
-
-#include "vessels/vessel_plant.h"
+#include "vessels/sized_vessel.h"
 
 namespace sizewright {
 namespace {
 
-constexpr double kPi = 3.1415926536;
-constexpr double kHeldInAMonth = 600.0 * 24 * 30;  // CF of the plant's liquid
-constexpr double kGallonsPerCubicFoot = 1728.0 / 231.0;
-constexpr double kM3PerCubicFoot = 0.028316846592;
+using Plant = PlantJson;
 
-double upToHalf(double feet) {
-  return std::ceil(feet * 2) / 2;
-}
-PlantJson tankPlant(const char* item = "STORAGE") {
-  return vesselPlant("DVT", item);
-}
-void takeFlowsAway(PlantJson& plant) {
-  slotsOf(plant, "F").erase("LIQUID MASS FLOW");
-  slotsOf(plant, "L").erase("LIQUID MASS FLOW");
-}
+constexpr double kHeld = 864000;  // CF: 1,200 CF/H for thirty days
+constexpr double kTank = 960000;  // CF, a tenth of it free
 
-TEST(Tank, Holds_the_liquid_of_its_holding_time_and_the_vapor_space) {
-  VesselAtHand tank(tankPlant("CONE BTM"));
-  ASSERT_EQ(tank->Size(), 1);
-  const double capacity = kHeldInAMonth * 100 / 90;
-  const double diameter = std::pow(capacity * 4 / (0.5 * kPi), 0.33);
-  const double height = capacity * 4 / (kPi * diameter * diameter);
-  EXPECT_EQ(tank.values().ves_dia, upToHalf(diameter));
-  EXPECT_EQ(tank.values().ves_height, upToHalf(height));
-  EXPECT_NEAR(tank.values().capacity, kPi / 4 * std::pow(upToHalf(diameter), 2) * upToHalf(height),
-              1e-2);
-  EXPECT_DOUBLE_EQ(tank.values().res_time, 30 * 24 * 60);
+Plant storagePlant(const char* item = "STORAGE") {
+  return sizingPlant("DVT", item);
 }
-
-TEST(Tank, Of_user_capacity_and_diameter_has_a_height_that_is_not_rounded) {
-  PlantJson plant = tankPlant("CONE BTM");
-  recordOf(plant) = {{"CpLiquidVolume", {5000, "CF"}}, {"CpVesselDiameter", {17.3, "FEET"}}};
-  VesselAtHand tank(plant);
-  tank->GetLastInfo();
-  ASSERT_EQ(tank->Size(), 1);
-  EXPECT_NEAR(tank.values().ves_height, 5000 * 4 / (kPi * 17.3 * 17.3), 1e-7);
-  EXPECT_DOUBLE_EQ(tank.values().capacity, 5000);
+double sphereOf(double diameter) {
+  return kCirclePi / 6 * diameter * diameter * diameter;
 }
-
-TEST(Tank, Of_a_user_height_has_a_diameter_that_is_not_rounded) {
-  PlantJson plant = tankPlant("CONE BTM");
-  recordOf(plant)["CpVesselHeight"] = {40.3, "FEET"};
-  VesselAtHand tank(plant);
-  tank->GetLastInfo();
-  ASSERT_EQ(tank->Size(), 1);
-  const double capacity = kHeldInAMonth * 100 / 90;
-  EXPECT_NEAR(tank.values().ves_dia, std::sqrt(capacity * 4 / (kPi * 40.3)), 1e-6);
-  EXPECT_EQ(tank.values().ves_height, 40.3);
-  EXPECT_NEAR(tank.values().capacity, capacity, 1e-6);
+double spheroidOf(double diameter, double height) {
+  return kCirclePi / 6 * diameter * height * height;
 }
-
-TEST(Tank, Of_two_user_dimensions_has_their_volume) {
-  PlantJson plant = tankPlant("CONE BTM");
-  recordOf(plant) = {{"CpVesselHeight", {12, "FEET"}}, {"CpVesselDiameter", {10, "FEET"}}};
-  VesselAtHand tank(plant);
-  tank->GetLastInfo();
-  ASSERT_EQ(tank->Size(), 1);
-  EXPECT_NEAR(tank.values().capacity, kPi / 4 * 1200, 1e-6);
-}
-
-TEST(Tank, A_vapor_space_outside_its_range_becomes_10_percent_in_silence) {
-  for (const double space : {100.0, 150.0, -5.0}) {
-    PlantJson plant = tankPlant();
-    projectOf(plant)["Vapor Free Space (% of Total Storage Vessel Volume)"] = space;
-    VesselAtHand tank(plant);
-    tank->GetLastInfo();
-    tank->Size();
-    EXPECT_EQ(tank.values().vapor_free_space, 10) << space;
-    EXPECT_TRUE(tank->Warnings().IsEmpty());
+void expectRefusal(const Plant& plant, const char* text, const VesselData& given) {
+  for (const int interactive : {1, 0}) {
+    SizedVessel tank(plant, interactive);
+    tank.data() = given;
+    tank.expectRefusal(text, interactive != 0);
   }
 }
 
-struct RefusalCase {
-  const char* category;
-  const char* item;
-  const char* text;
-  PlantJson record;
-};
+// --- Cylindrical tanks --------------------------------------------------------------------------
 
-class StorageRefusal : public testing::TestWithParam<RefusalCase> {};
-const char* const kNoCapacity = "Vessel capacity cannot be calculated. Please check stream flows.";
-const char* const kNoDiameter = "Vessel diameter cannot be calculated. Please check stream flows.";
-INSTANTIATE_TEST_SUITE_P(
-    EveryRoad, StorageRefusal,
-    testing::Values(RefusalCase{"DVT", "STORAGE", kNoCapacity, PlantJson::object()},
-                    RefusalCase{"DVT", "SPHERE", kNoCapacity, PlantJson::object()},
-                    RefusalCase{"DVT", "SPHEROID", kNoCapacity, PlantJson::object()},
-                    RefusalCase{"DAT", "OFF MACH", kNoCapacity, PlantJson::object()},
-                    RefusalCase{
-                        "DVT",
-                        "CONE BTM",
-                        kNoDiameter,
-                        {{"CpLiquidVolume", {500, "CF"}}, {"CpVesselHeight", {-3, "FEET"}}}}));
-
-TEST_P(StorageRefusal, Is_told) {
-  PlantJson plant = vesselPlant(GetParam().category, GetParam().item);
-  takeFlowsAway(plant);
-  recordOf(plant) = GetParam().record;
-  VesselAtHand tank(plant, 1);
-  tank->GetLastInfo();
-  EXPECT_EQ(tank->Size(), 0);
-  EXPECT_TRUE(holds(tank->Errors(), GetParam().text));
-  EXPECT_EQ(tank.plant.dialogTexts().back(), GetParam().text);
-}
-
-TEST(Sphere, Holds_the_liquid_without_vapor_space) {
-  VesselAtHand sphere(tankPlant("SPHERE"));
-  ASSERT_EQ(sphere->Size(), 1);
-  const double diameter = std::pow(kHeldInAMonth * 6 / kPi, 0.33);
-  EXPECT_EQ(sphere.values().ves_dia, upToHalf(diameter));
-  EXPECT_NEAR(sphere.values().capacity, kPi / 6 * std::pow(upToHalf(diameter), 3), 1e-2);
-  VesselAtHand tank(tankPlant("CONE BTM"));
-  tank->Size();
-  EXPECT_GT(tank.values().capacity, 1.05 * kHeldInAMonth);
-}
-
-TEST(Sphere, Of_a_user_diameter_has_its_volume_and_no_rounding) {
-  PlantJson plant = tankPlant("SPHERE");
-  recordOf(plant)["CpVesselDiameter"] = {21.3, "FEET"};
-  VesselAtHand sphere(plant);
-  sphere->GetLastInfo();
-  ASSERT_EQ(sphere->Size(), 1);
-  EXPECT_EQ(sphere.values().ves_dia, 21.3);
-  EXPECT_NEAR(sphere.values().capacity, kPi / 6 * std::pow(21.3, 3), 1e-5);
-}
-
-TEST(Sphere, Of_a_negative_diameter_takes_it_as_present_and_rounds_it) {
-  PlantJson plant = tankPlant("SPHERE");
-  recordOf(plant)["CpVesselDiameter"] = {-5.3, "FEET"};
-  VesselAtHand sphere(plant);
-  sphere->GetLastInfo();
-  EXPECT_EQ(sphere->Size(), 1);
-  EXPECT_EQ(sphere.values().ves_dia, -5.0);
-}
-
-TEST(Spheroid, Holds_the_liquid_at_its_ratio) {
-  VesselAtHand spheroid(tankPlant("SPHEROID"));
-  ASSERT_EQ(spheroid->Size(), 1);
-  const double diameter = std::pow(kHeldInAMonth * 6 / (0.16 * kPi), 0.33);
-  const double height = std::sqrt(kHeldInAMonth * 6 / kPi / diameter);
-  EXPECT_EQ(spheroid.values().ves_dia, upToHalf(diameter));
-  EXPECT_EQ(spheroid.values().ves_height, upToHalf(height));
-  EXPECT_NEAR(spheroid.values().capacity,
-              kPi / 6 * std::pow(upToHalf(height), 2) * upToHalf(diameter), 1e-2);
-}
-
-TEST(Spheroid, Of_a_user_height_or_diameter_is_not_rounded) {
-  PlantJson plant = tankPlant("SPHEROID");
-  recordOf(plant) = {{"CpVesselHeight", {40.3, "FEET"}}, {"CpLiquidVolume", {50000, "CF"}}};
-  VesselAtHand high(plant);
-  high->GetLastInfo();
-  high->Size();
-  EXPECT_NEAR(high.values().ves_dia, 50000 / (40.3 * 40.3) * 6 / kPi, 1e-6);
-  recordOf(plant) = {{"CpVesselDiameter", {60.3, "FEET"}}, {"CpLiquidVolume", {50000, "CF"}}};
-  VesselAtHand wide(plant);
-  wide->GetLastInfo();
-  wide->Size();
-  EXPECT_NEAR(wide.values().ves_height, std::sqrt(50000 * 6 / kPi / 60.3), 1e-6);
-  recordOf(plant)["CpVesselHeight"] = {30, "FEET"};
-  recordOf(plant).erase("CpLiquidVolume");
-  VesselAtHand both(plant);
-  both->GetLastInfo();
-  both->Size();
-  EXPECT_NEAR(both.values().capacity, kPi / 6 * 900 * 60.3, 1e-4);
-}
-
-TEST(Spheroid, Of_negative_dimensions_takes_them_as_present) {
-  PlantJson plant = tankPlant("SPHEROID");
-  recordOf(plant) = {{"CpVesselHeight", {-10.3, "FEET"}}, {"CpLiquidVolume", {5000, "CF"}}};
-  VesselAtHand spheroid(plant);
-  spheroid->GetLastInfo();
-  EXPECT_EQ(spheroid->Size(), 1);
-  EXPECT_EQ(spheroid.values().ves_height, -10.0);  // kept as given, and rounded up
-}
-
-// --- Results
-// --------------------------------------------------------------------------------------
-
-TEST(TankResults, Of_a_storage_tank_are_in_gallons_or_cubic_metres) {
-  PlantJson plant = tankPlant();
-  VesselAtHand tank(plant);
-  tank->Size();
-  const double capacity = tank.values().capacity;
-  EXPECT_EQ(tank->SaveParameters(), 1);
-  EXPECT_EQ(tank.text("CpVolumeUnits"), "GALLONS");
-  EXPECT_NEAR(tank.number("CpLiquidVolume"), capacity * kGallonsPerCubicFoot, 1e-4);
-  EXPECT_EQ(tank.units("CpLiquidVolume"), "");
-  EXPECT_EQ(tank.number("CpVesselDiameter"), tank.values().ves_dia);
-  EXPECT_EQ(tank.number("CpVesselHeight"), tank.values().ves_height);
-  EXPECT_EQ(tank.number("Storage Vessel Height to Diameter Ratio"), 0.5);
-  EXPECT_EQ(tank.number("Holding Hours in a Day"), 24);
-  EXPECT_EQ(tank.number("Number of Holding Days"), 30);
-  EXPECT_EQ(tank.number("Vapor Free Space (% of Total Storage Vessel Volume)"), 10);
-  EXPECT_NEAR(tank.number("CpDesignGaugePressure"), 75 - kStandardAtmosphere, 1e-9);
-  EXPECT_EQ(tank.number("CpOperatingTemperature"), 150);
-
-  plant["units"] = "metric";
-  VesselAtHand metric(plant);
-  metric->Size();
-  metric->SaveParameters();
-  EXPECT_EQ(metric.text("CpVolumeUnits"), "M3");
-  EXPECT_NEAR(metric.number("CpLiquidVolume"), capacity * kM3PerCubicFoot, 1e-4);
-}
-
-struct VolumeCase {
-  const char* item;
-  const char* slot;
-};
-class TankVolume : public testing::TestWithParam<VolumeCase> {};
-INSTANTIATE_TEST_SUITE_P(EveryItem, TankVolume,
-                         testing::Values(VolumeCase{"GAS HOLDER", "CpGasVolume"},
-                                         VolumeCase{"LIVE BTM", "CpSolidVolume"},
-                                         VolumeCase{"PLAST TANK", "CpLiquidVolume"},
-                                         VolumeCase{"WOOD TANK", "CpLiquidVolume"},
-                                         VolumeCase{"CONE BTM", "CpLiquidVolume"},
-                                         VolumeCase{"SPHERE", "CpLiquidVolume"},
-                                         VolumeCase{"SPHEROID", "CpLiquidVolume"}));
-
-TEST_P(TankVolume, Has_a_slot_by_item) {
-  PlantJson plant = tankPlant(GetParam().item);
-  VesselAtHand tank(plant);
-  tank->Size();
-  tank->SaveParameters();
-  EXPECT_DOUBLE_EQ(tank.number(GetParam().slot), tank.values().capacity);
-  EXPECT_EQ(tank.units(GetParam().slot), "CF");
-  EXPECT_EQ(tank.number("CpVesselDiameter"), tank.values().ves_dia);
-  EXPECT_EQ(tank.has("CpVesselHeight"), std::string(GetParam().item) != "SPHERE");
-  plant["units"] = "metric";
-  VesselAtHand metric(plant);
-  metric->Size();
-  metric->SaveParameters();
-  EXPECT_EQ(metric.units(GetParam().slot), "M3");
-  EXPECT_EQ(metric.units("CpVesselDiameter"), "M");
-}
-
-TEST(TankResults, Keep_user_design_conditions_out_for_tanks_but_not_for_spheres) {
-  for (const char* item : {"STORAGE", "SPHERE", "SPHEROID"}) {
-    PlantJson plant = tankPlant(item);
-    projectOf(plant) = {{"CpAllowResize", "No"},
-                        {"CpDesignGaugePressure", {40, "PSI"}},
-                        {"CpDesignTemperature", {99, "DEG F"}}};
-    for (const char* stream : {"F", "V", "L"}) slotsOf(plant, stream)["PRESSURE"] = {5, "PSI"};
-    VesselAtHand tank(plant);
-    tank->Size();
-    tank->SaveParameters();
-    EXPECT_EQ(tank.has("CpDesignTemperature"), std::string(item) != "STORAGE") << item;
-    EXPECT_FALSE(tank.has("CpVacuumDesignGaugePressure")) << item;
+TEST(Tank, Holds_thirty_days_of_liquid_below_a_tenth_of_vapor) {
+  for (const char* item :
+       {"STORAGE", "GAS HOLDER", "PLAST TANK", "WOOD TANK", "CONE BTM", "LIVE BTM", " storage "}) {
+    SizedVessel tank(storagePlant(item));
+    EXPECT_EQ(tank->Size(), 1);
+    const double diameter = std::pow(kTank * 4 / (0.5 * kCirclePi), 0.33);  // 128.3
+    EXPECT_EQ(tank.values().ves_dia, roundedUp(diameter)) << item;
+    EXPECT_EQ(tank.values().ves_height, roundedUp(kTank / cylinderOf(diameter, 1))) << item;
+    expectClose(tank.values().capacity, cylinderOf(128.5, tank.values().ves_height));
+    EXPECT_EQ(tank.values().ves_dia, 128.5);
+    EXPECT_EQ(tank.values().res_time, 43200);
+    EXPECT_EQ(tank.errors(), Texts{});
+    EXPECT_EQ(tank.warnings(), Texts{});
+    EXPECT_EQ(tank.calculations(), Texts{});
   }
 }
 
-TEST(TankResults, Below_14_6_PSI_there_is_a_vacuum_rating_without_margin) {
+TEST(Tank, Reports_its_progress) {
+  SizedVessel tank(storagePlant());
+  EXPECT_EQ(tank.sizingProgress(), (SizedVessel::Progress{
+                                       {51, "Checking user specifications."},
+                                       {53, "Obtaining holding time."},
+                                       {55, "Determining vapor free space."},
+                                       {60, "Beginning detailed sizing of the equipment."},
+                                       {61, "Determining vessel volume."},
+                                       {65, "Obtaining height and diameter of the equipment."},
+                                       {66, "Obtaining diameter."},
+                                       {67, "Obtaining height."},
+                                       {68, "Checking height over diameter ratio for vessel."},
+                                       {75, "Rounding up height and diameter."},
+                                       {80, "Calculating vessel capacity."},
+                                   }));
+}
+
+TEST(Tank, Follows_the_criteria) {
+  Plant plant = storagePlant();
+  criteriaOf(plant) = {{"Storage Vessel Height to Diameter Ratio", 0.8},
+                       {"Holding Hours in a Day", 8},
+                       {"Number of Holding Days", 5},
+                       {"Vapor Free Space (% of Total Storage Vessel Volume)", 20}};
+  SizedVessel tank(plant);
+  EXPECT_EQ(tank->Size(), 1);
+  EXPECT_EQ(tank.values().res_time, 2400);
+  const double diameter = std::pow(60000 * 4 / (0.8 * kCirclePi), 0.33);  // 1,200 x 40 / 0.8
+  EXPECT_EQ(tank.values().ves_dia, roundedUp(diameter));
+  EXPECT_EQ(tank.values().ves_height, roundedUp(60000 / cylinderOf(diameter, 1)));
+}
+
+TEST(Tank, Guards_against_criteria_that_are_not_positive) {
+  for (const char* item : {"STORAGE", "SPHEROID", "SPHERE"}) {
+    Plant plant = storagePlant(item);
+    criteriaOf(plant) = {{"Storage Vessel Height to Diameter Ratio", -1},
+                         {"Holding Hours in a Day", -1},
+                         {"Number of Holding Days", -1},
+                         {"Vapor Free Space (% of Total Storage Vessel Volume)", -1}};
+    SizedVessel tank(plant);
+    EXPECT_EQ(tank->Size(), 1);
+    EXPECT_EQ(tank.values().holding_days, 30) << item;
+    EXPECT_EQ(tank.values().holding_hours, 24) << item;
+    const bool cylinder = std::string(item) == "STORAGE";
+    EXPECT_EQ(tank.values().vapor_free_space, cylinder ? 10 : -1) << item;
+    // a sphere asks for no slenderness
+    EXPECT_EQ(tank.values().ht_dia_ratio,
+              cylinder ? 0.5 : (std::string(item) == "SPHEROID" ? 0.4 : -1))
+        << item;
+  }
+}
+
+TEST(Tank, Replaces_a_vapor_space_of_all_its_volume_by_a_tenth_without_a_word) {
+  struct Row {
+    double given;
+    double used;
+  };
+  for (const Row& row : {Row{99.9, 99.9}, Row{100, 10}, Row{150, 10}, Row{0.1, 0.1}}) {
+    SizedVessel tank(storagePlant(), 1);
+    tank.data().vapor_free_space = row.given;
+    tank.data().ves_dia = 100;
+    EXPECT_EQ(tank->Size(), 1);
+    EXPECT_EQ(tank.values().vapor_free_space, row.used);
+    expectClose(tank.values().capacity, kHeld * 100 / (100 - row.used));
+    EXPECT_EQ(tank.warnings(), Texts{});
+    EXPECT_TRUE(tank.prints().empty());
+    EXPECT_TRUE(tank.boxes().empty());
+  }
+}
+
+TEST(Tank, Holds_the_greater_of_what_comes_and_what_leaves) {
+  struct Row {
+    double leaves;  // CF/H, where 1,200 come
+    double counts;
+  };
   for (const char* item : {"STORAGE", "SPHERE", "SPHEROID"}) {
-    for (const auto& [pressure, rated] : {std::pair(14.599, true), std::pair(14.6, false)}) {
-      PlantJson plant = tankPlant(item);
-      for (const char* stream : {"F", "V", "L"}) {
-        slotsOf(plant, stream)["PRESSURE"] = {pressure, "PSI"};
-      }
-      VesselAtHand tank(plant);
-      tank->Size();
-      tank->SaveParameters();
-      EXPECT_EQ(tank.has("CpVacuumDesignGaugePressure"), rated) << item << pressure;
+    for (const Row& row : {Row{600, 1200}, Row{1200, 1200}, Row{3000, 3000}}) {
+      Plant plant = storagePlant(item);
+      setPhase(plant, "L", "LIQUID", row.leaves * 50, 50);
+      SizedVessel tank(plant);
+      tank.data().ves_dia = 100;  // so that the volume stays
+      EXPECT_EQ(tank->Size(), 1);
+      const bool cylinder = std::string(item) == "STORAGE";
+      const double held = std::string(item) == "SPHERE" ? sphereOf(100) : row.counts * 720;
+      expectClose(tank.values().capacity, cylinder ? held / 0.9 : held);
     }
   }
+}
+
+TEST(Tank, Of_a_user_capacity_and_diameter_has_the_height_of_them_and_nothing_rounded) {
+  SizedVessel tank(storagePlant());
+  tank.data().capacity = 1000;
+  tank.data().ves_dia = 10.3;
+  EXPECT_EQ(tank->Size(), 1);
+  EXPECT_EQ(tank.values().ves_dia, 10.3);
+  expectClose(tank.values().ves_height, 1000 / cylinderOf(10.3, 1));
+  EXPECT_EQ(tank.values().capacity, 1000);
+  for (const auto& [percent, text] : tank.plant.progress()) EXPECT_LT(percent, 75) << text;
+}
+
+TEST(Tank, Of_a_user_height_has_the_diameter_of_the_volume_and_nothing_rounded) {
+  SizedVessel tank(storagePlant());
+  tank.data().ves_height = 40.2;
+  EXPECT_EQ(tank->Size(), 1);
+  EXPECT_EQ(tank.values().ves_height, 40.2);
+  expectClose(tank.values().ves_dia, std::sqrt(kTank * 4 / kCirclePi / 40.2));
+  expectClose(tank.values().capacity, kTank);
+}
+
+TEST(Tank, Of_both_user_dimensions_has_their_volume) {
+  SizedVessel tank(storagePlant());
+  tank.data().ves_dia = 20.3;
+  tank.data().ves_height = 10.2;
+  EXPECT_EQ(tank->Size(), 1);
+  EXPECT_EQ(tank.values().ves_dia, 20.3);
+  EXPECT_EQ(tank.values().ves_height, 10.2);
+  expectClose(tank.values().capacity, cylinderOf(20.3, 10.2));
+}
+
+TEST(Tank, Of_a_user_capacity_alone_is_rounded_and_has_the_volume_of_that) {
+  SizedVessel tank(storagePlant());
+  tank.data().capacity = 1000;
+  EXPECT_EQ(tank->Size(), 1);
+  const double diameter = std::pow(1000 * 4 / (0.5 * kCirclePi), 0.33);  // 13.3
+  EXPECT_EQ(tank.values().ves_dia, 13.5);
+  EXPECT_EQ(tank.values().ves_height, roundedUp(1000 / cylinderOf(diameter, 1)));
+  expectClose(tank.values().capacity, cylinderOf(13.5, tank.values().ves_height));
+}
+
+TEST(Tank, Of_everything_from_the_user_stays_as_given) {
+  SizedVessel tank(storagePlant());
+  tank.data().capacity = 1000;
+  tank.data().ves_dia = 7.1;
+  tank.data().ves_height = 3.3;
+  EXPECT_EQ(tank->Size(), 1);
+  EXPECT_EQ(tank.values().capacity, 1000);
+  EXPECT_EQ(tank.values().ves_dia, 7.1);
+  EXPECT_EQ(tank.values().ves_height, 3.3);
+}
+
+TEST(Tank, Is_refused_without_a_volume_a_diameter_or_a_height) {
+  Plant dry = storagePlant();
+  removeLiquid(dry);
+  expectRefusal(dry, kNoCapacity, {});
+  VesselData given;
+  given.ves_height = -3;
+  expectRefusal(storagePlant(), kNoDiameter, given);
+  given = {};
+  given.ves_dia = 1e200;  // its square is beyond all numbers
+  expectRefusal(storagePlant(), kNoHeight, given);
+}
+
+TEST(Tank, That_is_refused_keeps_what_it_has_reached) {
+  SizedVessel tank(storagePlant());
+  tank.data().ves_height = -3;
+  EXPECT_EQ(tank->Size(), 0);
+  expectClose(tank.values().capacity, kTank);
+  EXPECT_EQ(tank.values().ves_height, -3);
+}
+
+// --- Spheres ------------------------------------------------------------------------------------
+
+TEST(Sphere, Holds_thirty_days_of_liquid_and_no_vapor) {
+  for (const double space : {10.0, 50.0}) {
+    SizedVessel sphere(storagePlant("SPHERE"));
+    sphere.data().vapor_free_space = space;
+    EXPECT_EQ(sphere->Size(), 1);
+    EXPECT_EQ(sphere.values().ves_dia, roundedUp(std::pow(kHeld * 6 / kCirclePi, 0.33)));
+    EXPECT_EQ(sphere.values().ves_dia, 113);
+    expectClose(sphere.values().capacity, sphereOf(113));
+    EXPECT_EQ(sphere.values().ves_height, 0);
+    EXPECT_EQ(sphere.values().res_time, 0);
+  }
+}
+
+TEST(Sphere, Reports_its_progress) {
+  SizedVessel sphere(storagePlant("SPHERE"));
+  EXPECT_EQ(sphere.sizingProgress(), (SizedVessel::Progress{
+                                         {51, "Checking user specifications."},
+                                         {55, "Determining liquid holding time."},
+                                         {60, "Beginning detailed sizing of the equipment."},
+                                         {61, "Determining vessel volume."},
+                                         {65, "Obtaining diameter of the equipment."},
+                                         {75, "Rounding up diameter."},
+                                         {80, "Calculating vessel capacity."},
+                                     }));
+}
+
+TEST(Sphere, Of_a_user_diameter_has_its_volume) {
+  SizedVessel sphere(storagePlant("sphere"));
+  sphere.data().ves_dia = 40.3;
+  EXPECT_EQ(sphere->Size(), 1);
+  EXPECT_EQ(sphere.values().ves_dia, 40.3);
+  expectClose(sphere.values().capacity, sphereOf(40.3));
+}
+
+TEST(Sphere, Of_a_user_capacity_is_rounded_and_has_the_volume_of_that) {
+  SizedVessel sphere(storagePlant("SPHERE"));
+  sphere.data().capacity = 1000;
+  EXPECT_EQ(sphere->Size(), 1);
+  EXPECT_NEAR(std::pow(6000 / kCirclePi, 0.33), 12.1, 0.05);
+  EXPECT_EQ(sphere.values().ves_dia, 12.5);
+  expectClose(sphere.values().capacity, sphereOf(12.5));
+}
+
+TEST(Sphere, Of_a_user_capacity_and_diameter_stays_as_given) {
+  SizedVessel sphere(storagePlant("SPHERE"));
+  sphere.data().capacity = 1000;
+  sphere.data().ves_dia = 40.3;
+  EXPECT_EQ(sphere->Size(), 1);
+  EXPECT_EQ(sphere.values().capacity, 1000);
+  EXPECT_EQ(sphere.values().ves_dia, 40.3);
+}
+
+TEST(Sphere, Of_a_negative_diameter_keeps_it_though_it_does_not_count_as_given) {
+  Plant plant = storagePlant("SPHERE");
+  recordOf(plant)["CpVesselDiameter"] = Plant::array({-5, "FEET"});
+  SizedVessel sphere(plant);
+  sphere->GetLastInfo();
+  EXPECT_EQ(sphere->Size(), 1);
+  EXPECT_EQ(sphere.values().ves_dia, -5);
+  EXPECT_TRUE(std::isnan(sphere.values().capacity));  // of a negative diameter
+  sphere->Commit();
+  EXPECT_FALSE(sphere.has("CpLiquidVolume"));
+}
+
+TEST(Sphere, Without_liquid_is_refused) {
+  Plant dry = storagePlant("SPHERE");
+  removeLiquid(dry);
+  expectRefusal(dry, kNoCapacity, {});
+}
+
+// --- Spheroids ----------------------------------------------------------------------------------
+
+TEST(Spheroid, Holds_thirty_days_of_liquid_and_no_vapor) {
+  for (const double space : {10.0, 50.0}) {
+    SizedVessel tank(storagePlant("SPHEROID"));
+    tank.data().vapor_free_space = space;
+    EXPECT_EQ(tank->Size(), 1);
+    const double diameter = std::pow(kHeld * 6 / (0.16 * kCirclePi), 0.33);  // 206.3
+    EXPECT_EQ(tank.values().ves_dia, 206.5);
+    EXPECT_EQ(tank.values().ves_dia, roundedUp(diameter));
+    EXPECT_EQ(tank.values().ves_height, roundedUp(std::sqrt(kHeld * 6 / kCirclePi / diameter)));
+    EXPECT_EQ(tank.values().ves_height, 89.5);
+    expectClose(tank.values().capacity, spheroidOf(206.5, 89.5));
+  }
+}
+
+TEST(Spheroid, Reports_its_progress) {
+  SizedVessel tank(storagePlant("SPHEROID"));
+  EXPECT_EQ(tank.sizingProgress(), (SizedVessel::Progress{
+                                       {51, "Checking user specifications."},
+                                       {52, "Determining height over diameter ratio."},
+                                       {55, "Determining liquid holding time."},
+                                       {60, "Beginning detailed sizing of the equipment."},
+                                       {61, "Determining vessel volume."},
+                                       {65, "Obtaining height and diameter of the equipment."},
+                                       {66, "Obtaining diameter."},
+                                       {67, "Obtaining diameter."},
+                                       {67, "Obtaining height."},
+                                       {75, "Rounding up height and diameter."},
+                                       {80, "Calculating vessel capacity."},
+                                   }));
+}
+
+TEST(Spheroid, Of_one_user_dimension_has_the_other_from_the_volume_and_nothing_rounded) {
+  SizedVessel wide(storagePlant("SPHEROID"));
+  wide.data().ves_dia = 150.3;
+  EXPECT_EQ(wide->Size(), 1);
+  EXPECT_EQ(wide.values().ves_dia, 150.3);
+  expectClose(wide.values().ves_height, std::sqrt(kHeld * 6 / kCirclePi / 150.3));
+  expectClose(wide.values().capacity, kHeld);
+
+  SizedVessel tall(storagePlant("SPHEROID"));
+  tall.data().ves_height = 90.2;
+  EXPECT_EQ(tall->Size(), 1);
+  EXPECT_EQ(tall.values().ves_height, 90.2);
+  expectClose(tall.values().ves_dia, kHeld / squareOf(90.2) * 6 / kCirclePi);
+  expectClose(tall.values().capacity, kHeld);
+}
+
+TEST(Spheroid, Of_both_user_dimensions_has_their_volume) {
+  SizedVessel tank(storagePlant("SPHEROID"));
+  tank.data().ves_dia = 50.3;
+  tank.data().ves_height = 20.2;
+  EXPECT_EQ(tank->Size(), 1);
+  EXPECT_EQ(tank.values().ves_dia, 50.3);
+  EXPECT_EQ(tank.values().ves_height, 20.2);
+  expectClose(tank.values().capacity, spheroidOf(50.3, 20.2));
+}
+
+TEST(Spheroid, Of_a_user_capacity_and_slenderness_follows_them) {
+  Plant plant = storagePlant("SPHEROID");
+  criteriaOf(plant)["Storage Vessel Height to Diameter Ratio"] = 0.6;
+  SizedVessel tank(plant);
+  tank.data().capacity = 20000;
+  EXPECT_EQ(tank->Size(), 1);
+  const double diameter = std::pow(120000 / (0.36 * kCirclePi), 0.33);
+  EXPECT_EQ(tank.values().ves_dia, roundedUp(diameter));
+  EXPECT_EQ(tank.values().ves_height, roundedUp(std::sqrt(120000 / kCirclePi / diameter)));
+}
+
+TEST(Spheroid, Of_a_negative_dimension_keeps_it_though_it_does_not_count_as_given) {
+  SizedVessel tank(storagePlant("SPHEROID"));
+  tank.data().ves_height = -20.2;
+  EXPECT_EQ(tank->Size(), 1);
+  EXPECT_EQ(tank.values().ves_height, -20);  // rounded up, as what is not given
+  EXPECT_EQ(tank.values().ves_dia, roundedUp(kHeld / squareOf(20.2) * 6 / kCirclePi));
+}
+
+TEST(Spheroid, Is_refused_without_a_volume_a_diameter_or_a_height) {
+  Plant dry = storagePlant("SPHEROID");
+  removeLiquid(dry);
+  expectRefusal(dry, kNoCapacity, {});
+  VesselData given;
+  given.ves_height = 1e200;  // its square is beyond all numbers
+  expectRefusal(storagePlant("SPHEROID"), kNoDiameter, given);
+  given = {};
+  given.capacity = 1e-30;
+  given.ves_dia = 1e300;
+  expectRefusal(storagePlant("SPHEROID"), kNoHeight, given);
 }
 
 }  // namespace
