@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <string>
 
 #include "sizewright/host/objects.h"
@@ -12,12 +13,13 @@ struct NamedStream {
   CvdStream stream;
 };
 
-/// Smallest of the values above a bound; 0 until there is one.
-class Least {
+/// The best of the values above a bound; 0 until there is one.
+template <class Better>
+class Extreme {
  public:
-  explicit Least(double above) : above_(above) {}
+  explicit Extreme(double above) : above_(above) {}
   void take(double value) {
-    if (value > above_ && (!found_ || value < value_)) value_ = value;
+    if (value > above_ && (!found_ || Better{}(value, value_))) value_ = value;
     found_ = found_ || value > above_;
   }
   [[nodiscard]] double value() const { return value_; }
@@ -28,23 +30,8 @@ class Least {
   double value_ = 0.0;
   bool found_ = false;
 };
-
-/// Greatest of the values above a bound; 0 until there is one.
-class Greatest {
- public:
-  explicit Greatest(double above) : above_(above) {}
-  void take(double value) {
-    if (value > above_ && (!found_ || value > value_)) value_ = value;
-    found_ = found_ || value > above_;
-  }
-  [[nodiscard]] double value() const { return value_; }
-  [[nodiscard]] bool found() const { return found_; }
-
- private:
-  double above_;
-  double value_ = 0.0;
-  bool found_ = false;
-};
+using Least = Extreme<std::less<>>;
+using Greatest = Extreme<std::greater<>>;
 
 /// Mean of the positive values; 0 until there is one.
 class MeanOfPositive {

@@ -157,4 +157,18 @@ inline constexpr std::string_view kEveryKey = R"({
   "defaults": false
 })";
 
+using Names = std::vector<std::string>;
+
+inline Names namesOf(const Plant& plant, const std::vector<StoredObject*>& objects) {
+  Names names;
+  for (const StoredObject* object : objects) names.push_back(plant.store.text(object->name));
+  return names;
+}
+
+inline Names slotNamesOf(const Plant& plant, const StoredObject& object) {
+  Names names;
+  for (const Symbol slot : object.slotNames) names.push_back(plant.store.text(slot));
+  return names;
+}
+
 }  // namespace sizewright
