@@ -76,6 +76,8 @@ class CVesObj : public SizingItem<VesselData, ExitRelease::abandoned> {
   void readTankCapacity();
   void vsinp_get_process_info();
   void vsinp_proc_vs();
+  void vsinp_get_horizontal();
+  void vsinp_get_vertical();
   void vsinp_storage();
   void vsinp_agvs();
   void GetDesCriteriaInfo();

@@ -185,13 +185,21 @@ void CVesObj::vsinp_proc_vs() {
     if (projectObject->GetValue(kMethod, method.data()) != 0) data().sep_method = method.view();
   }
   if (isHorizontal()) {
-    readProject(kHorizontal);
-    readProject(kBoot);
+    vsinp_get_horizontal();
   } else {
-    readProject(kDisengagementHeight);
-    readProject(kMistEliminator);
-    readProject(kLevels);
+    vsinp_get_vertical();
   }
+}
+
+void CVesObj::vsinp_get_horizontal() {
+  readProject(kHorizontal);
+  readProject(kBoot);
+}
+
+void CVesObj::vsinp_get_vertical() {
+  readProject(kDisengagementHeight);
+  readProject(kMistEliminator);
+  readProject(kLevels);
 }
 
 void CVesObj::vsinp_storage() {
