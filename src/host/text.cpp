@@ -86,7 +86,7 @@ std::string joinTexts(const std::vector<std::string>& texts, char separator) {
 std::string_view popFirstLine(std::string_view& rest) {
   const std::size_t end = rest.find('\n');
   const std::string_view line = rest.substr(0, end);
-  rest = end == std::string_view::npos ? std::string_view{} : rest.substr(end + 1);
+  rest.remove_prefix(end == std::string_view::npos ? rest.size() : end + 1);
   return line;
 }
 
