@@ -86,7 +86,6 @@ class CVesObj : public SizingItem<VesselData, ExitRelease::abandoned> {
   void vsinp_agvs_get_des();
   [[nodiscard]] double vsinp_proc_vs_determine_ht_dia_ratio(const char* name,
                                                             double designPressure) const;
-  void readLevelCriteria();
   FixedText<128> projectText(const char* slot) const;
 
   // --- Streams ---
@@ -161,8 +160,8 @@ class CVesObj : public SizingItem<VesselData, ExitRelease::abandoned> {
   void writeCells();
 
   // --- Results of all roads ---
-  void writeLength(SlotName slot, double feet);
-  void writeVolume(SlotName slot, double cubicFeet);
+  void writeLength(SlotName slot, double length);
+  void writeVolume(SlotName slot, double volume);
   void writeDesignConditions();
   void writeVacuum(double margin);
 };

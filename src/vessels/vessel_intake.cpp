@@ -126,12 +126,18 @@ constexpr auto kMistEliminator = std::to_array<CriterionRow<D>>({
     {"Minimum height above the mist eliminator", &D::ht_hll, "FEET"},
     {"Height of mist eliminator", &D::ht_me, "FEET"},
 });
-constexpr auto kLevels = std::to_array<CriterionRow<D>>({
-    {"Minimum Ht. Btw Low and High Liquid Level Taps", &D::min_liq_ht, "FEET", 4.0},
-    {"Ht. Btw Inlet Nozzle and High Liquid Level Tap", &D::ht_btw_InNozz_HLLTap, "FEET", 2.0},
-    {"Ht. Btw Low Liquid Level Tap and Tangent Line", &D::ht_LLL_tangent, "FEET", 0.5},
-});
-constexpr double kMetricLevels[] = {1250.0, 600.0, 150.0};  // MM, in the order of kLevels
+// Metric projects have round defaults of their own.
+std::array<CriterionRow<D>, 3> levelRows(bool metric) {
+  const auto level = [metric](double feet, double millimetres) {
+    return metric ? converted(millimetres, "MM", "FEET") : feet;
+  };
+  return {{{"Minimum Ht. Btw Low and High Liquid Level Taps", &D::min_liq_ht, "FEET",
+            level(4.0, 1250.0)},
+           {"Ht. Btw Inlet Nozzle and High Liquid Level Tap", &D::ht_btw_InNozz_HLLTap, "FEET",
+            level(2.0, 600.0)},
+           {"Ht. Btw Low Liquid Level Tap and Tangent Line", &D::ht_LLL_tangent, "FEET",
+            level(0.5, 150.0)}}};
+}
 constexpr auto kStorageRatioRow = std::to_array<CriterionRow<D>>({
     {kStorageRatio, &D::ht_dia_ratio, "", 0.5},
 });
@@ -199,7 +205,7 @@ void CVesObj::vsinp_get_horizontal() {
 void CVesObj::vsinp_get_vertical() {
   readProject(kDisengagementHeight);
   readProject(kMistEliminator);
-  readProject(kLevels);
+  readProject(levelRows(unitType != 0));
 }
 
 void CVesObj::vsinp_storage() {
@@ -211,7 +217,7 @@ void CVesObj::vsinp_storage() {
 FixedText<128> CVesObj::projectText(const char* slot) const {
   SlotText text;
   projectObject->GetValue(slot, text.data());
-  return FixedText<128>(text.view());
+  return {text.view()};
 }
 
 void CVesObj::vsinp_agvs() {
@@ -260,18 +266,7 @@ void CVesObj::vsinp_proc_vs_get_des() {
   readCriteria(kBoot);
   readCriteria(kDisengagementHeight);
   readCriteria(kMistEliminator);
-  readLevelCriteria();
-}
-
-// Metric projects have round defaults of their own.
-void CVesObj::readLevelCriteria() {
-  auto rows = kLevels;
-  if (unitType != 0) {
-    for (std::size_t i = 0; i < rows.size(); ++i) {
-      rows[i].fallback = converted(kMetricLevels[i], "MM", "FEET");
-    }
-  }
-  readCriteria(rows);
+  readCriteria(levelRows(unitType != 0));
 }
 
 void CVesObj::vsinp_storage_get_des() {
