@@ -109,7 +109,9 @@ bool holds(const CStrList& list, std::string_view entry) {
 bool holdsLines(const CStrList& list, std::string_view text) {
   std::string all = "\n";
   for (int i = 0; i < list.GetLength(); ++i) all.append(list.GetTextAt(i)).append("\n");
-  return all.find("\n" + std::string(text) + "\n") != std::string::npos;
+  std::string wanted = "\n";
+  wanted.append(text).append("\n");
+  return all.find(wanted) != std::string::npos;
 }
 
 }  // namespace sizewright
