@@ -307,10 +307,7 @@ void CScObj::sc_rep_write_parameters() {
 }
 
 int CScObj::UpdateConnectivity() {
-  rewritePorts(kInlet, inlets(), "INLET", "_in_");
-  // kept: the exits are looked for under another tag, "SOLIDS OUTLET"
-  rewritePorts(kExit, exits(), "OUTLET", "_ex_");
-  return 1;
+  return rewriteBothPorts("INLET", "OUTLET");  // kept: exits are looked for as "SOLIDS OUTLET"
 }
 
 }  // namespace sizewright
