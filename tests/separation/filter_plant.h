@@ -7,6 +7,14 @@ namespace sizewright {
 
 using Filter = SolidsItem<CFltObj>;
 
+/// A filter or centrifuge that a test can set values on.
+class FilterUnderTest : public CFltObj {
+ public:
+  using CFltObj::CFltObj;
+  using CFltObj::data;
+};
+using SetFilter = SolidsItem<FilterUnderTest>;
+
 constexpr double kCfhInGpm = 60 * 231.0 / 1728.0;
 constexpr double kQuarterPi = 0.7853981634;
 

@@ -7,14 +7,6 @@ namespace {
 
 using D = FilterData;
 
-/// A filter or centrifuge that a test can set values on.
-class FilterUnderTest : public CFltObj {
- public:
-  using CFltObj::CFltObj;
-  using CFltObj::data;
-};
-using SetFilter = SolidsItem<FilterUnderTest>;
-
 // --- Slots --------------------------------------------------------------------------------------
 
 struct ResultCase {

@@ -125,6 +125,15 @@ TEST(SeveralFilters, Are_at_least_one) {
   }
 }
 
+TEST(SeveralFilters, Set_below_one_are_one) {
+  for (const double units : {-2.0, 0.0, 0.5}) {
+    SetFilter filter(filterPlant("OTHER"));
+    filter->data().num_units = units;
+    filter->Size();
+    EXPECT_EQ(filter.values().num_units, 1) << units;
+  }
+}
+
 // --- Area by cake or by dimensions --------------------------------------------------------------
 
 struct AreaCase {

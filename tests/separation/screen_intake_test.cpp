@@ -214,15 +214,18 @@ TEST(ScreenSolids, By_the_liquor_need_both_numbers) {
   }
 }
 
-TEST(ScreenSolids, Below_0_are_an_error_too) {
-  PlantJson plant = screenPlant("HIGH CAP");
-  slotsOf(plant, "F") = PlantJson::object();
-  recordOf(plant)["CpFlowrate"] = {-6000, "LB/H"};
-  Screen screen(plant);
-  EXPECT_EQ(screen->Size(), 1);
-  EXPECT_TRUE(holds(screen->Errors(), "No inlet solid flow specified."));
-  EXPECT_TRUE(screen.plant.dialogTexts().empty());
-  EXPECT_EQ(screen.values().surfaceArea, 10);
+TEST(ScreenSolids, Below_0_are_an_error_too_and_count_as_none) {
+  for (const auto& [item, area] :
+       {std::pair("CIRCULAR", 0.0), std::pair("RECTANGLE", 0.0), std::pair("HIGH CAP", 10.0)}) {
+    PlantJson plant = screenPlant(item);
+    slotsOf(plant, "F") = PlantJson::object();
+    recordOf(plant)["CpFlowrate"] = {-6000, "LB/H"};
+    Screen screen(plant);
+    EXPECT_EQ(screen->Size(), 1);
+    EXPECT_TRUE(holds(screen->Errors(), "No inlet solid flow specified."));
+    EXPECT_TRUE(screen.plant.dialogTexts().empty());
+    EXPECT_EQ(screen.values().surfaceArea, area) << item;
+  }
 }
 
 // --- Values of the item -------------------------------------------------------------------------
