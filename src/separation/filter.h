@@ -24,8 +24,7 @@ struct FilterData {
   bool liquidFlowInGpm = false;
 };
 
-// --- Correlations: lengths in INCHES, liquid flows in GPM, solid flows in LB/H
-// --------------------
+// Correlations of centrifuges: lengths in INCHES, liquid flows in GPM, solid flows in LB/H.
 
 /// Bowl of a tubular centrifuge: 3 + 0.1 x flow.
 double tubularDiameter(double liquidFlow);
@@ -78,7 +77,8 @@ CentrifugeSlots centrifugeSlots(std::string_view item);
 ///   component record and then on the simulator block; "FILTER AREA", "Diameter" and "Length" of
 ///   the block come after them. Dimensions of a filter are "CpDiameter" and "CpLength", a bowl's
 ///   straight length is "CpBowlStraightLength", a tubular filter's flow "CpTubeFlowrate", the
-///   cake's thickness "CpCakeThickness".
+///   cake's thickness "CpCakeThickness". Last come flows and densities that the record or the block
+///   tells in the slots of a stream.
 /// - Solids of a stream are its "SOLID MASS FLOW" or, without one, the balance of total less liquid
 ///   less vapor. For a centrifuge a positive balance comes first: its mass and volume replace those
 ///   of the solids flow. Volumes follow by the densities, 93.6 PCF for solids and 62.4 PCF for
@@ -122,9 +122,11 @@ class CFltObj : public FormlessItem<FilterData> {
   int flt_set();
   void flt_set_block_info();
   void flt_set_inlet_flows();
-  [[nodiscard]] StreamFlows flt_stp_get_reqd_stream_flow(CvdStream& stream) const;
-  [[nodiscard]] StreamFlows flt_stp_get_stream_flow_rate_for_wingems(CvdStream& stream) const;
-  [[nodiscard]] double liquidVolumeOf(CvdStream& stream) const;
+  void takeFlows(const StreamFlows& flows);
+  [[nodiscard]] const Solids& solidsOf(const StreamFlows& flows) const;
+  [[nodiscard]] StreamFlows flt_stp_get_reqd_stream_flow(CvdValueObject& stream) const;
+  [[nodiscard]] StreamFlows flt_stp_get_stream_flow_rate_for_wingems(CvdValueObject& stream) const;
+  [[nodiscard]] double liquidVolumeOf(CvdValueObject& stream) const;
   void flt_get_outlet_port_info();
   int flt_siz();
   void flt_cent_siz();

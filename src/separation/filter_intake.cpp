@@ -19,8 +19,6 @@ using enum From;
 constexpr auto kSources = std::to_array<SourceRow<D>>({
     {&D::solid_mass_flow, component, "CpFlowrate", "LB/H"},
     {&D::solid_mass_flow, simObject, "CpFlowrate", "LB/H"},
-    {&D::liquid_flow, component, "CpLiquidFlowrate", "CFH"},
-    {&D::liquid_flow, simObject, "CpLiquidFlowrate", "CFH"},
     {&D::basket_capacity, component, "CpCentrifugeCapacity", "CF"},
     {&D::basket_capacity, simObject, "CpCentrifugeCapacity", "CF"},
     {&D::driver_power, component, "CpDriverPower", "HP"},
@@ -93,36 +91,48 @@ void CFltObj::flt_set_block_info() {
     if (centrifuge && slots.flow != nullptr) {
       readSource(filter.liquid_flow, from, slots.flow, "CFH");
     }
+    readSource(filter.liquid_flow, from, "CpLiquidFlowrate", "CFH");
   }
   readSource(filter.flt_diameter, From::simObject, "Diameter", "INCHES");
   readSource(filter.flt_length, From::simObject, "Length", "INCHES");
+  for (const From from : {From::component, From::simObject}) {
+    CvdValueObject* object = source(from);
+    if (object != nullptr) takeFlows(flt_stp_get_reqd_stream_flow(*object));
+  }
+}
+
+// A sum over the inlets, or what a record tells in the slots of a stream.
+void CFltObj::takeFlows(const StreamFlows& flows) {
+  const Solids& solid = solidsOf(flows);
+  setIfNotPositive(data().liquid_flow, flows.liquidVolume);
+  setIfNotPositive(data().solid_mass_flow, solid.mass);
+  setIfNotPositive(data().solid_vol_flow, solid.volume);
+}
+
+const CFltObj::Solids& CFltObj::solidsOf(const StreamFlows& flows) const {
+  return isCentrifuge() && flows.balance.mass > 0.0 ? flows.balance : flows.solid;
 }
 
 void CFltObj::flt_set_inlet_flows() {
-  const bool centrifuge = isCentrifuge();
-  double liquidVolume = 0.0;
-  double solidMass = 0.0;
-  double solidVolumeSum = 0.0;
+  StreamFlows sum;
   for (auto& [name, stream] : openStreams(inlets())) {
-    StreamFlows flows = simulatorType == kLiquorRatioSimulator
-                            ? flt_stp_get_stream_flow_rate_for_wingems(stream)
-                            : flt_stp_get_reqd_stream_flow(stream);
-    if (centrifuge && flows.balance.mass > 0.0) flows.solid = flows.balance;
-    liquidVolume += flows.liquidVolume;
-    solidMass += flows.solid.mass;
-    solidVolumeSum += flows.solid.volume;
+    const StreamFlows flows = simulatorType == kLiquorRatioSimulator
+                                  ? flt_stp_get_stream_flow_rate_for_wingems(stream)
+                                  : flt_stp_get_reqd_stream_flow(stream);
+    const Solids& solid = solidsOf(flows);
+    sum.liquidVolume += flows.liquidVolume;
+    sum.solid.mass += solid.mass;
+    sum.solid.volume += solid.volume;
   }
-  setIfNotPositive(data().liquid_flow, liquidVolume);
-  setIfNotPositive(data().solid_mass_flow, solidMass);
-  setIfNotPositive(data().solid_vol_flow, solidVolumeSum);
+  takeFlows(sum);
 }
 
-double CFltObj::liquidVolumeOf(CvdStream& stream) const {
+double CFltObj::liquidVolumeOf(CvdValueObject& stream) const {
   return solidVolume(readOr(&stream, "LIQUID MASS FLOW", "LB/H", 0.0),
                      readOr(&stream, "LIQUID MASS DENSITY", "PCF", kLiquidDensity));
 }
 
-CFltObj::StreamFlows CFltObj::flt_stp_get_reqd_stream_flow(CvdStream& stream) const {
+CFltObj::StreamFlows CFltObj::flt_stp_get_reqd_stream_flow(CvdValueObject& stream) const {
   const double density = readSolidDensity(*this, stream);
   const auto flowOf = [density](double mass) { return Solids{mass, solidVolume(mass, density)}; };
   StreamFlows flows;
@@ -134,7 +144,8 @@ CFltObj::StreamFlows CFltObj::flt_stp_get_reqd_stream_flow(CvdStream& stream) co
 }
 
 // These streams tell no balance.
-CFltObj::StreamFlows CFltObj::flt_stp_get_stream_flow_rate_for_wingems(CvdStream& stream) const {
+CFltObj::StreamFlows CFltObj::flt_stp_get_stream_flow_rate_for_wingems(
+    CvdValueObject& stream) const {
   const double mass = solidFlowByLiquorRatio(*this, stream);
   StreamFlows flows;
   flows.liquidVolume = liquidVolumeOf(stream);

@@ -115,6 +115,10 @@ double stackedCapacity(double capacity, double decks) {
   return decks == 2.0 ? capacity * 1.9 : capacity;
 }
 
+double screenArea(double solidFlow, double capacity) {
+  return capacity > 0.0 ? solidFlow / capacity : kAreaWithoutCapacity;
+}
+
 void limitCircularArea(double& area, double& units) {
   applyLimit(kCircularLimit, area, units);
 }
@@ -268,8 +272,7 @@ void CScObj::sc_siz_area() {
   const double capacity = data().materialCapacity;
   setIfNotPositive(data().deckCapacity,
                    isShaped() ? stackedCapacity(capacity, data().numberDecks) : capacity);
-  data().surfaceArea =
-      data().deckCapacity > 0.0 ? data().solidFlowTPH / data().deckCapacity : kAreaWithoutCapacity;
+  data().surfaceArea = screenArea(data().solidFlowTPH, data().deckCapacity);
 }
 
 void CScObj::sc_calculate_diameter() {
@@ -307,10 +310,7 @@ void CScObj::sc_rep_write_parameters() {
 }
 
 int CScObj::UpdateConnectivity() {
-  rewritePorts(kInlet, inlets(), "INLET", "_in_");
-  // kept: the exits are looked for under another tag, "SOLIDS OUTLET"
-  rewritePorts(kExit, exits(), "OUTLET", "_ex_");
-  return 1;
+  return rewriteBothPorts("INLET", "OUTLET");  // kept: exits are looked for as "SOLIDS OUTLET"
 }
 
 }  // namespace sizewright

@@ -27,6 +27,8 @@ struct ScreenData {
 std::string_view screenOpeningKey(double opening);
 /// Capacity of stacked decks: 2.7 times that of one deck for three and more, 1.9 times for two.
 double stackedCapacity(double capacity, double decks);
+/// Area (SF) for a solid flow (TPH) and a capacity (TPH/SF); 1.5 without a capacity.
+double screenArea(double solidFlow, double capacity);
 /// Brings the area (SF) of a circular screen within one unit: above 18 SF there are area / 18
 /// units, rounded up, of 16 SF each.
 void limitCircularArea(double& area, double& units);
